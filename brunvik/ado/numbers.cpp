@@ -1,0 +1,70 @@
+#include "brunvik/ado/numbers.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+#include "brunvik/ado/errors.h"
+
+namespace brunvik::ado {
+
+namespace {
+
+template <class Number>
+void append_floating(std::string& text, Number value) {
+  // The longest plain text: 309 digits in front of the point, or some 340 behind it.
+  std::array<char, 400> buffer;
+  if (value == 0) value = 0;  // A negative zero is written as zero.
+  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed);
+  text.append(buffer.data(), static_cast<std::size_t>(end.ptr - buffer.data()));
+}
+
+template <class Whole>
+Whole to_whole(double value) {
+  const double rounded = std::nearbyint(value);
+  if (!(rounded >= std::numeric_limits<Whole>::min() && rounded <= std::numeric_limits<Whole>::max())) {
+    raise(error::overflow);
+  }
+  return static_cast<Whole>(rounded);
+}
+
+}  // namespace
+
+void append_number(std::string& text, std::int64_t value) {
+  std::array<char, 24> buffer;
+  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
+  text.append(buffer.data(), static_cast<std::size_t>(end.ptr - buffer.data()));
+}
+
+void append_number(std::string& text, Single value) { append_floating(text, value); }
+void append_number(std::string& text, Double value) { append_floating(text, value); }
+
+std::string_view trimmed_number(std::string_view text) noexcept {
+  const auto first = text.find_first_not_of(" \t\r\n");
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(" \t\r\n") - first + 1);
+}
+
+double parse_double(std::string_view text) {
+  std::string_view number = trimmed_number(text);
+  if (number.starts_with('+') && !number.starts_with("+-")) number.remove_prefix(1);
+  double value = 0;
+  const auto [end, failure] = std::from_chars(number.data(), number.data() + number.size(), value);
+  if (failure == std::errc::result_out_of_range) raise(error::overflow);
+  if (failure != std::errc{} || end != number.data() + number.size() || !std::isfinite(value)) {
+    raise(error::type_mismatch);
+  }
+  return value;
+}
+
+Long to_long(double value) { return to_whole<Long>(value); }
+Integer to_integer(double value) { return to_whole<Integer>(value); }
+Byte to_byte(double value) { return to_whole<Byte>(value); }
+
+Single to_single(double value) {
+  if (!(std::fabs(value) <= std::numeric_limits<Single>::max())) raise(error::overflow);
+  return static_cast<Single>(value);
+}
+
+}  // namespace brunvik::ado

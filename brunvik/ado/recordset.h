@@ -1,0 +1,67 @@
+// Recordset: the rows that a statement selected, fetched whole, with a current record.
+//
+// A set is read from its first record to its end:
+//
+//   ado::Recordset set = connection->Execute("select Gid, Qty from StockBillItems");
+//   const ado::Column gid = set.column("gid");
+//   for (; !set.at_end(); set.MoveNext()) use(set.value(gid));
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "brunvik/ado/types.h"
+#include "brunvik/ado/value.h"
+
+namespace brunvik::ado {
+
+class Connection;
+
+// The place of a column in a set, found once and good for all of its records.
+enum class Column : std::size_t {};
+
+class Recordset : public Object {
+ public:
+  // A closed set.
+  Recordset() = default;
+
+  // An open set: `cells` holds the records one after the other, each with a value for every name.
+  Recordset(std::vector<std::string> names, std::vector<Value> cells);
+
+  // 0 when the set is closed, 1 when it is open.
+  Long State() const noexcept { return open_ ? 1 : 0; }
+  void Close() noexcept;
+
+  // The connection on which Open runs, unset in a new set.
+  void set_active_connection(std::shared_ptr<Connection> connection);
+
+  // Runs the statement on the active connection and becomes its result. Error 3709 without an open connection.
+  void Open(std::string_view source);
+
+  // No record (EOF): behind the last one, or none at all. Error 3704 on a closed set.
+  bool at_end() const;
+  void MoveNext();
+  void MoveFirst();
+
+  std::size_t record_count() const noexcept;
+  const std::vector<std::string>& names() const noexcept { return names_; }
+
+  // Names are compared without regard to the case of ASCII letters; the first of two equal names counts. Error 3265.
+  Column column(std::string_view name) const;
+
+  // The value in the current record. Error 3021 where there is none.
+  const Value& value(Column column) const;
+  const Value& value(std::string_view name) const { return value(column(name)); }
+
+ private:
+  std::shared_ptr<Connection> connection_;
+  bool open_ = false;
+  std::vector<std::string> names_;
+  std::vector<Value> cells_;
+  std::size_t record_ = 0;
+};
+
+}  // namespace brunvik::ado

@@ -1,0 +1,21 @@
+# What every target of this project is compiled with: brunvik_options carries it, and is never installed.
+add_library(brunvik_options INTERFACE)
+target_compile_features(brunvik_options INTERFACE cxx_std_20)
+target_compile_options(brunvik_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Werror)
+target_include_directories(brunvik_options INTERFACE ${PROJECT_SOURCE_DIR})
+
+if(BRUNVIK_SANITIZE)
+  target_compile_options(brunvik_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
+                                                   -fno-omit-frame-pointer)
+  target_link_options(brunvik_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# A library of the house: its options, its place for those who include it, and its name for those who link it.
+function(brunvik_library target alias)
+  add_library(brunvik::${alias} ALIAS ${target})
+  set_target_properties(${target} PROPERTIES EXPORT_NAME ${alias} POSITION_INDEPENDENT_CODE ON)
+  target_compile_features(${target} PUBLIC cxx_std_20)
+  target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:brunvik_options>)
+  target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
+                                              $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+endfunction()
