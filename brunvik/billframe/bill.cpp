@@ -1,0 +1,112 @@
+#include "brunvik/billframe/bill.h"
+
+#include <array>
+#include <cstdio>
+
+#include "brunvik/ado/clock.h"
+#include "brunvik/foundation/GetValue_Function.h"
+#include "brunvik/foundation/error_trap.h"
+#include "brunvik/foundation/sql_text.h"
+
+namespace brunvik {
+
+void Bill::save(Saving saving) {
+  save_header(saving);
+  save_rows();
+}
+
+Long Bill::Save() noexcept {
+  return trap([&] { save(Saving::bill); });
+}
+
+Long Bill::SaveAsDraft() noexcept {
+  return trap([&] { save(Saving::draft); });
+}
+
+Long Bill::GetBill() noexcept {
+  return trap([&] {
+    read_header();
+    read_rows();
+  });
+}
+
+Long Bill::Delete() noexcept {
+  return trap([&] {
+    remove_rows();
+    remove_header();
+  });
+}
+
+Long Bill::LoadById(const std::string& BID) noexcept {
+  return trap([&] {
+    ID = BID;
+    read_header();
+    read_rows();
+  });
+}
+
+Long Bill::GetLastId(std::string& LastId) noexcept { return last_of_series(LastId, {}); }
+Long Bill::LoadLast() noexcept { return load_last_of_series({}); }
+
+Long Bill::GetNearId(const std::string& CurBillID, std::string& NearBillID, bool NextPreviousId) noexcept {
+  return neighbour_in_series(CurBillID, NearBillID, NextPreviousId, {});
+}
+
+Long Bill::LoadNext() noexcept { return load_neighbour_in_series(true, {}); }
+Long Bill::LoadPreviou() noexcept { return load_neighbour_in_series(false, {}); }
+Long Bill::GetNewId(std::string& BID) noexcept { return propose_number(BID, kind().prefix); }
+
+Long Bill::last_of_series(std::string& LastId, std::string_view series) noexcept {
+  return trap([&] {
+    LastId.clear();
+    find_last(LastId, series);
+  });
+}
+
+Long Bill::load_last_of_series(std::string_view series) noexcept {
+  return trap([&] {
+    stop_unless_done(last_of_series(ID, series));
+    if (ID.empty()) return;
+    read_header();
+    read_rows();
+  });
+}
+
+Long Bill::neighbour_in_series(const std::string& CurBillID, std::string& NearBillID, bool next,
+                               std::string_view series) noexcept {
+  return trap([&] { find_near(CurBillID, NearBillID, next, series); });
+}
+
+Long Bill::load_neighbour_in_series(bool next, std::string_view series) noexcept {
+  return trap([&] {
+    find_near(ID, ID, next, series);
+    if (ID.empty()) return;
+    read_header();
+    read_rows();
+  });
+}
+
+Long Bill::propose_number(std::string& BID, std::string_view prefix) noexcept {
+  // A number that can't be worked out is shown by its own notice and proposed as 00000; the verb is done all the same.
+  trap([&] {
+    const Long number =
+        Get_BillMaxId(kind().header_table(), "ID", sql(" where ID like '{raw}%' ", prefix), std::string_view());
+    std::array<char, 16> running{};
+    std::snprintf(running.data(), running.size(), "%05d", number);
+    BID = std::string(prefix) + ado::bill_day_text(ado::now()) + running.data();
+  });
+  return 0;
+}
+
+void Bill::read_properties(const ado::Recordset& set) {
+  if (set.at_end()) return;
+  for (const Member& member : members()) {
+    if (!member.read_column().empty()) member.read(*this, set.value(member.read_column()));
+  }
+}
+
+std::string Bill::aggregated_id(const ado::Recordset& set) {
+  return set.at_end() ? std::string() : set.value("Id").joined_text();
+}
+
+}  // namespace brunvik

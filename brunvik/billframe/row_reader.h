@@ -1,0 +1,30 @@
+// Reads the rows of a bill out of a set.
+#pragma once
+
+#include <utility>
+#include <vector>
+
+#include "brunvik/ado/recordset.h"
+#include "brunvik/foundation/members.h"
+
+namespace brunvik {
+
+using RowMembers = std::vector<const Member*>;
+
+// Empties the collection, and adds a row for each record with these members filled, in the order of the set. `finish`
+// gets each row and the set at its record, for what a document reads beside them. A null reads as nothing.
+template <class Row, class Finish>
+void read_rows(RowCollection& rows, ado::Recordset set, const RowMembers& members, Finish&& finish) {
+  rows.clear();
+  if (set.at_end()) return;
+  std::vector<std::pair<const Member*, ado::Column>> fields;
+  fields.reserve(members.size());
+  for (const Member* member : members) fields.emplace_back(member, set.column(member->read_column()));
+  for (; !set.at_end(); set.MoveNext()) {
+    auto& row = static_cast<Row&>(rows.add());
+    for (const auto& [member, column] : fields) member->read(row, set.value(column));
+    finish(row, set);
+  }
+}
+
+}  // namespace brunvik

@@ -1,0 +1,98 @@
+// Statements that name their columns: the value of a column is found by the column's name, so that a long insert can't
+// get out of step with its values.
+//
+//   const Insert add(members, {argument("Status"), constant("Type", 6)},
+//       "insert into StockBill(Id,Type,Status,[Auditor,AuditTime,]Remarks) values(");
+//
+// [a|b] stands as a in the form for status 3 and as b in every other; |b may be left out. The text is taken apart once;
+// a name that is no column of the class is error 3265 there.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "brunvik/foundation/members.h"
+
+namespace brunvik {
+
+// Where a column takes its value from, where that isn't the property that the member table names for it.
+struct ColumnSource {
+  enum class Kind { constant, argument, property };
+
+  std::string_view column;
+  Kind kind;
+  Long value = 0;
+  std::string_view property;
+};
+
+constexpr ColumnSource constant(std::string_view column, Long value) {
+  return {column, ColumnSource::Kind::constant, value, {}};
+}
+
+// The status that the caller gives.
+constexpr ColumnSource argument(std::string_view column) { return {column, ColumnSource::Kind::argument, 0, {}}; }
+
+// Another property than the column's own.
+constexpr ColumnSource from(std::string_view column, std::string_view property) {
+  return {column, ColumnSource::Kind::property, 0, property};
+}
+
+class ColumnStatement {
+ public:
+  // The text for an object. `status` picks the form and is the value of a column with an argument.
+  std::string text(const PublicObject& object, Long status = 0) const;
+
+  // The properties that keep the columns written, but for those that take a constant or an argument: what an object
+  // reads back of what it writes. In the form for any other status than 3.
+  std::vector<const Member*> members_written() const;
+
+ protected:
+  struct Value {
+    std::string text_before;
+    std::string column;
+  };
+  struct Parts {
+    std::vector<Value> values;
+    std::string tail;
+  };
+
+  // `take_apart` splits the text of one form at its columns.
+  ColumnStatement(const Members& members, const std::vector<ColumnSource>& sources, std::string_view text,
+                  Parts (*take_apart)(std::string_view));
+
+ private:
+  struct Place {
+    std::string text_before;
+    std::string column;
+    ColumnSource::Kind kind;
+    Long constant;
+    // Where the value comes from, and what keeps the column; the same but for a column with a source of its own.
+    const Member* property;
+    const Member* kept_in;
+  };
+  struct Form {
+    std::vector<Place> places;
+    std::string tail;
+  };
+
+  static Form resolved(Parts parts, const Members& members, const std::vector<ColumnSource>& sources);
+
+  Form audited_;
+  Form other_;
+};
+
+// "insert into T(A,B) values(": the values follow, separated by commas, and the closing bracket.
+class Insert : public ColumnStatement {
+ public:
+  Insert(const Members& members, const std::vector<ColumnSource>& sources, std::string_view text);
+};
+
+// "update T set A = ,B =  where Id=": each value stands where its comma or the where is, the key at the end.
+class Update : public ColumnStatement {
+ public:
+  Update(const Members& members, const std::vector<ColumnSource>& sources, std::string_view text);
+};
+
+}  // namespace brunvik

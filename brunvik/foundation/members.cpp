@@ -1,0 +1,232 @@
+#include "brunvik/foundation/members.h"
+
+#include <utility>
+
+#include "brunvik/ado/errors.h"
+#include "brunvik/ado/names.h"
+#include "brunvik/foundation/sql_text.h"
+
+namespace brunvik {
+
+namespace {
+
+// Hands the stored property to the visitor as what it is.
+template <class Visitor>
+void visit_stored(Type type, void* place, Visitor&& visitor) {
+  switch (type) {
+    case Type::Text:
+      return visitor(*static_cast<std::string*>(place));
+    case Type::Byte:
+      return visitor(*static_cast<Byte*>(place));
+    case Type::Integer:
+      return visitor(*static_cast<Integer*>(place));
+    case Type::Long:
+      return visitor(*static_cast<Long*>(place));
+    case Type::Single:
+      return visitor(*static_cast<Single*>(place));
+    case Type::Double:
+      return visitor(*static_cast<Double*>(place));
+    case Type::Money:
+      return visitor(*static_cast<Money*>(place));
+    case Type::Boolean:
+      return visitor(*static_cast<bool*>(place));
+    case Type::Variant:
+      return visitor(*static_cast<Value*>(place));
+    default:
+      ado::raise(ado::error::type_mismatch);
+  }
+}
+
+void take(std::string& property, const Value& value) { property = value.as_text(); }
+void take(Byte& property, const Value& value) { property = value.as_byte(); }
+void take(Integer& property, const Value& value) { property = value.as_integer(); }
+void take(Long& property, const Value& value) { property = value.as_long(); }
+void take(Single& property, const Value& value) { property = value.as_single(); }
+void take(Double& property, const Value& value) { property = value.as_double(); }
+void take(Money& property, const Value& value) { property = value.as_money(); }
+void take(bool& property, const Value& value) { property = value.as_boolean(); }
+void take(Value& property, const Value& value) { property = value; }
+
+ado::ConnectionReference connection_in(const Value& value) {
+  if (value.is_empty() || value.is_null()) return nullptr;
+  const auto* object = value.get_if<ado::ObjectReference>();
+  auto connection = object ? std::dynamic_pointer_cast<ado::Connection>(*object) : nullptr;
+  if (!connection && !(object && !*object)) ado::raise(ado::error::type_mismatch);
+  return connection;
+}
+
+}  // namespace
+
+std::string_view name_of(Type type) noexcept {
+  switch (type) {
+    case Type::Nothing:
+      return "Nothing";
+    case Type::Text:
+      return "String";
+    case Type::Byte:
+      return "Byte";
+    case Type::Integer:
+      return "Integer";
+    case Type::Long:
+      return "Long";
+    case Type::Single:
+      return "Single";
+    case Type::Double:
+      return "Double";
+    case Type::Money:
+      return "Money";
+    case Type::Boolean:
+      return "Boolean";
+    case Type::Date:
+      return "Date";
+    case Type::Variant:
+      return "Variant";
+    case Type::Connection:
+      return "Connection";
+    case Type::Object:
+      return "Object";
+    case Type::Rows:
+      return "Collection";
+  }
+  return {};
+}
+
+std::string_view name_of(MemberKind kind) noexcept {
+  switch (kind) {
+    case MemberKind::property:
+      return "property";
+    case MemberKind::read_only_property:
+      return "read-only property";
+    case MemberKind::collection:
+      return "collection";
+    case MemberKind::verb:
+      return "verb";
+  }
+  return {};
+}
+
+Member Member::stored(std::string_view name, std::string_view column, MemberKind kind, Type type, Place place) {
+  Member member;
+  member.name_ = name;
+  member.kind_ = kind;
+  member.type_ = type;
+  member.written_column_ = member.read_column_ = column;
+  member.place_ = place;
+  return member;
+}
+
+Member Member::computed(std::string_view name, std::string_view column, Type type, Compute compute) {
+  Member member;
+  member.name_ = name;
+  member.kind_ = MemberKind::read_only_property;
+  member.type_ = type;
+  member.written_column_ = column;
+  member.compute_ = compute;
+  return member;
+}
+
+Member Member::callable(std::string_view name, Type result, std::vector<Parameter> parameters, Call call) {
+  Member member;
+  member.name_ = name;
+  member.kind_ = MemberKind::verb;
+  member.type_ = result;
+  member.parameters_ = std::move(parameters);
+  member.call_ = call;
+  return member;
+}
+
+Member Member::required() && {
+  required_ = true;
+  return std::move(*this);
+}
+
+Member Member::read_from(std::string_view column) && {
+  read_column_ = column;
+  written_column_ = {};
+  return std::move(*this);
+}
+
+void Member::append_to(std::string& statement, const PublicObject& object) const {
+  if (compute_) {
+    const Value value = compute_(object);
+    return SqlValue(value).append_to(statement);
+  }
+  visit_stored(type_, place_(const_cast<PublicObject&>(object)),
+               [&](const auto& property) { SqlValue(property).append_to(statement); });
+}
+
+void Member::read(PublicObject& object, const Value& field) const {
+  if (field.is_null() && required_) ado::raise(ado::error::invalid_use_of_null);
+  visit_stored(type_, place_(object), [&](auto& property) {
+    if (field.is_null()) {
+      property = {};
+    } else {
+      take(property, field);
+    }
+  });
+}
+
+Value Member::get(const PublicObject& object) const {
+  if (compute_) return compute_(object);
+  if (!place_) ado::raise(ado::error::no_such_member);
+  void* place = place_(const_cast<PublicObject&>(object));
+  if (type_ == Type::Connection) return ado::ObjectReference(*static_cast<ado::ConnectionReference*>(place));
+  if (type_ == Type::Rows) {
+    // The collection stays the bill's: the reference lives no longer than the bill.
+    return ado::ObjectReference(ado::ObjectReference(), static_cast<RowCollection*>(place));
+  }
+  Value value;
+  visit_stored(type_, place, [&](const auto& property) { value = property; });
+  return value;
+}
+
+void Member::put(PublicObject& object, const Value& value) const {
+  if (!place_) ado::raise(ado::error::no_such_member);
+  void* place = place_(object);
+  if (type_ == Type::Connection) {
+    *static_cast<ado::ConnectionReference*>(place) = connection_in(value);
+  } else if (type_ == Type::Rows) {
+    const auto* reference = value.get_if<ado::ObjectReference>();
+    const auto* rows = reference ? dynamic_cast<const RowCollection*>(reference->get()) : nullptr;
+    if (!rows) ado::raise(ado::error::type_mismatch);
+    static_cast<RowCollection*>(place)->assign(*rows);
+  } else {
+    visit_stored(type_, place, [&](auto& property) { take(property, value); });
+  }
+}
+
+RowCollection& Member::rows(PublicObject& object) const {
+  if (type_ != Type::Rows) ado::raise(ado::error::no_such_member);
+  return *static_cast<RowCollection*>(place_(object));
+}
+
+Value Member::call(PublicObject& object, std::vector<Value>& arguments) const {
+  if (!call_) ado::raise(ado::error::no_such_member);
+  complete_arguments(parameters_, arguments);
+  return call_(object, arguments);
+}
+
+void complete_arguments(const std::vector<Parameter>& parameters, std::vector<Value>& arguments) {
+  if (arguments.size() > parameters.size()) ado::raise(ado::error::wrong_argument_count);
+  while (arguments.size() < parameters.size()) {
+    const Parameter& parameter = parameters[arguments.size()];
+    if (!parameter.optional) ado::raise(ado::error::wrong_argument_count);
+    arguments.push_back(parameter.default_value);
+  }
+}
+
+const Member& Members::named(std::string_view name) const {
+  for (const Member& member : members_) {
+    if (ado::same_name(member.name(), name)) return member;
+  }
+  ado::raise(ado::error::no_such_member);
+}
+
+const Member& Members::written_to(std::string_view column) const {
+  for (const Member& member : members_) {
+    if (!column.empty() && ado::same_name(member.written_column(), column)) return member;
+  }
+  throw ado::RuntimeError(ado::error::no_such_field, "no property is written to column " + std::string(column));
+}
+
+}  // namespace brunvik

@@ -1,0 +1,114 @@
+#include "brunvik/settlement/advance.h"
+
+#include <array>
+
+#include "brunvik/foundation/error_trap.h"
+#include "brunvik/foundation/late_binding.h"
+#include "brunvik/foundation/sql_text.h"
+
+namespace brunvik {
+
+namespace {
+
+const Insert& settled_insert() {
+  static const Insert insert(SettledRow::table(), {},
+                             "insert into AdvanceItems(BID,RowNum,RPableBID,RPableBType,Amount,Remarks) values(");
+  return insert;
+}
+
+}  // namespace
+
+const Members& Advance::table() {
+  using C = Advance;
+  static const Members table{
+      connection<&C::ADOConn>("ADOConn"),
+      rows<&C::colAdvanceItems>("colAdvanceItems"),
+      property<&C::ID>("ID", "Id"),
+      property<&C::Manualid>("Manualid", "Manualid"),
+      property<&C::Payer>("Payer", "Manager"),
+      property<&C::Ccompany>("Ccompany", "Ccompany"),
+      property<&C::Paidamount>("Paidamount", "Paidamount"),
+      property<&C::Amount>("Amount", "Amount"),
+      property<&C::Nowpay>("Nowpay", "Nowpay"),
+      property<&C::Status>("Status", "Status").required(),
+      property<&C::Creator>("Creator", "Creator"),
+      property<&C::Createtime>("Createtime", "Createtime"),
+      property<&C::Auditor>("Auditor", "Auditor"),
+      property<&C::Audittime>("Audittime", "Audittime"),
+      property<&C::Referflag>("Referflag", "Referflag"),
+      property<&C::Referbillid>("Referbillid", "Referbillid"),
+      property<&C::Summary>("Summary", "Summary"),
+      computed<&C::DiscountAmount>("DiscountAmount"),
+      property<&C::Remarks>("Remarks", "Remarks"),
+      verb<&C::Save>("Save"),
+      verb<&C::SaveAsDraft>("SaveAsDraft"),
+      verb<&C::LoadById>("LoadById", {in_out("BID")}),
+      verb<&C::Delete>("Delete"),
+      verb<&C::LoadLast>("LoadLast"),
+      verb<&C::LoadNext>("LoadNext"),
+      verb<&C::LoadPreviou>("LoadPreviou"),
+      verb<&C::GetPreviousId>("GetPreviousId", {in("CurBillID"), out("PreviousId")}),
+      verb<&C::GetLastId>("GetLastId", {out("LastId")}),
+      verb<&C::GetNextId>("GetNextId", {in("CurBillID"), out("NextId")}),
+      verb<&C::GetNewId>("GetNewId", {out("BID")}),
+      verb<&C::Audite>("Audite", {optional(in_out("Auditor"), ""), optional(in_out("Audittime"), "")}),
+      verb<&C::UndoAudite>("UndoAudite"),
+  };
+  return table;
+}
+
+const Members& Advance::members() const { return table(); }
+
+VoucherForm Advance::advance_form(const Kind& kind) {
+  // The received advance finds the repair documents of the paying side too.
+  static constexpr std::array repair_codes{bill_type::repair_from_factory, bill_type::repair_to_customer,
+                                           bill_type::factory_replacement};
+  return {" GetPayBill(): ",
+          " SavePayBill(): ",
+          " SavePayBillForDraft(): ",
+          repair_codes,
+          UndoForm::by_number_alone,
+          Insert(table(), insert_sources(kind),
+                 "insert into AdvanceBill(Id,Manualid,Manager,Ccompany,Type,Paidamount,Amount,Nowpay,"
+                 "Status,Creator,Createtime,[Auditor,Audittime,]Referflag,Referbillid,Summary,Remarks) values("),
+          Update(table(), update_sources(kind),
+                 "update AdvanceBill set ManualId = ,Manager = ,Ccompany = ,Paidamount = ,Amount = ,Nowpay = ,Type = ,"
+                 "Status = ,[Auditor = ,AuditTime = ,]Referflag = ,Referbillid = ,Summary = ,Remarks =  where Id=")};
+}
+
+const VoucherForm& clsAdvanceBill::form() const {
+  static const VoucherForm form = advance_form(kind());
+  return form;
+}
+
+const VoucherForm& clsAdvanceYSBill::form() const {
+  static const VoucherForm form = advance_form(kind());
+  return form;
+}
+
+// The other family's total is the second sum; on a payment voucher the two stand the other way round.
+std::string Advance::select_open_amount(std::string_view table, const std::string& bill) const {
+  return sql(
+      "Select {raw}.amount as billamount,{raw} as PaidAmount, {raw} as PaidAmount2 from {raw} where id = {} "
+      "group by {raw}.amount",
+      table, sum_of_advances(bill), sum_of_vouchers(bill), table, bill, table);
+}
+
+ado::Recordset Advance::select_header() const {
+  return execute(sql("select * from AdvanceBill where Id={} and Type= {}", ID, *kind().code));
+}
+
+void Advance::save_rows() {
+  worker(" SaveAdvanceItems(): ", [&] { insert_rows(colAdvanceItems, settled_insert(), " AddAdvanceItems(): "); });
+}
+
+void Advance::read_rows() {
+  worker(" GetAdvanceItems(): ",
+         [&] { read_settled_rows(execute(sql("select * from AdvanceItems where bid={}", ID)), settled_insert()); });
+}
+
+void Advance::remove_rows() {
+  worker(" DeleteAdvanceItems(): ", [&] { execute(sql("delete from AdvanceItems where BID={}", ID)); });
+}
+
+}  // namespace brunvik

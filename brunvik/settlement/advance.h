@@ -1,0 +1,61 @@
+// Advances: money paid or received ahead of time, set against the bills that it settles (AdvanceItems).
+#pragma once
+
+#include "brunvik/settlement/voucher.h"
+
+namespace brunvik {
+
+// The paid and the received advance are one design: they differ in kind alone.
+class Advance : public Voucher {
+ public:
+  Collection<SettledRow> colAdvanceItems;
+
+  // The staff member who handled the money.
+  Long Payer = 0;
+
+  using Bill::Delete;
+  using Bill::GetLastId;
+  using Bill::GetNewId;
+  using Bill::LoadById;
+  using Bill::LoadLast;
+  using Bill::LoadNext;
+  using Bill::LoadPreviou;
+  using Bill::Save;
+  using Bill::SaveAsDraft;
+
+  const Members& members() const override;
+
+ protected:
+  static VoucherForm advance_form(const Kind& kind);
+
+  Collection<SettledRow>& settled_rows() override { return colAdvanceItems; }
+  std::string select_open_amount(std::string_view table, const std::string& bill) const override;
+  void before_update() override { remove_rows(); }
+  ado::Recordset select_header() const override;
+  void save_rows() override;
+  void read_rows() override;
+  void remove_rows() override;
+
+ private:
+  static const Members& table();
+};
+
+// Advance paid.
+class clsAdvanceBill final : public Advance {
+ public:
+  const Kind& kind() const override { return kind::clsAdvanceBill; }
+
+ protected:
+  const VoucherForm& form() const override;
+};
+
+// Advance received.
+class clsAdvanceYSBill final : public Advance {
+ public:
+  const Kind& kind() const override { return kind::clsAdvanceYSBill; }
+
+ protected:
+  const VoucherForm& form() const override;
+};
+
+}  // namespace brunvik
