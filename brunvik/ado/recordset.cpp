@@ -1,5 +1,6 @@
 #include "brunvik/ado/recordset.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "brunvik/ado/connection.h"
@@ -53,6 +54,10 @@ Column Recordset::column(std::string_view name) const {
     if (same_name(names_[place], name)) return Column{place};
   }
   raise(error::no_such_field);
+}
+
+bool Recordset::has(std::string_view name) const noexcept {
+  return std::any_of(names_.begin(), names_.end(), [&](const std::string& own) { return same_name(own, name); });
 }
 
 const Value& Recordset::value(Column column) const {

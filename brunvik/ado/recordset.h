@@ -51,6 +51,7 @@ class Recordset : public Object {
 
   // Names are compared without regard to the case of ASCII letters; the first of two equal names counts. Error 3265.
   Column column(std::string_view name) const;
+  bool has(std::string_view name) const noexcept;
 
   // The value in the current record. Error 3021 where there is none.
   const Value& value(Column column) const;

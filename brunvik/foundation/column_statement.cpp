@@ -46,7 +46,8 @@ ColumnStatement::Form ColumnStatement::resolved(Parts parts, const Members& memb
   Form form;
   form.tail = std::move(parts.tail);
   for (Value& value : parts.values) {
-    Place place{std::move(value.text_before), std::move(value.column), ColumnSource::Kind::property, 0, nullptr, nullptr};
+    Place place{
+        std::move(value.text_before), std::move(value.column), ColumnSource::Kind::property, 0, nullptr, nullptr};
     bool listed = false;
     for (const ColumnSource& source : sources) {
       if (!ado::same_name(source.column, place.column)) continue;

@@ -66,6 +66,15 @@ class Argument<Parameter> {
   std::shared_ptr<Class> object_;
 };
 
+template <class Parameter>
+constexpr MakeRecord record_maker() {
+  using Class = std::remove_cvref_t<Parameter>;
+  if constexpr (std::is_base_of_v<PublicObject, Class> && std::is_default_constructible_v<Class>) {
+    return [] { return std::shared_ptr<PublicObject>(std::make_shared<Class>()); };
+  }
+  return nullptr;
+}
+
 template <class... Parameters>
 struct Call {
   using Arguments = std::tuple<Argument<Parameters>...>;
@@ -73,7 +82,11 @@ struct Call {
   static std::vector<Parameter> described(std::vector<Parameter> parameters) {
     const std::array<Type, sizeof...(Parameters)> types{type_of<Parameters>()...};
     if (parameters.size() != types.size()) ado::raise(ado::error::wrong_argument_count);
-    for (std::size_t place = 0; place < types.size(); ++place) parameters[place].type = types[place];
+    const std::array<MakeRecord, sizeof...(Parameters)> makers{record_maker<Parameters>()...};
+    for (std::size_t place = 0; place < types.size(); ++place) {
+      parameters[place].type = types[place];
+      parameters[place].make_record = makers[place];
+    }
     return parameters;
   }
 
@@ -126,6 +139,37 @@ Member verb(std::string_view name, std::vector<Parameter> parameters = {}) {
             [&](auto&&... arguments) { return (self.*pointer)(std::forward<decltype(arguments)>(arguments)...); },
             values);
       });
+}
+
+// A module procedure, callable by name.
+struct Procedure {
+  std::string_view name;
+  Type result;
+  std::vector<Parameter> parameters;
+  Value (*call)(std::span<Value>);
+};
+
+namespace detail {
+
+template <class Pointer>
+struct FunctionPointer;
+
+template <class Answer, class... Parameters>
+struct FunctionPointer<Answer (*)(Parameters...)> {
+  using Result = Answer;
+  using Invocation = Call<Parameters...>;
+};
+template <class Answer, class... Parameters>
+struct FunctionPointer<Answer (*)(Parameters...) noexcept> : FunctionPointer<Answer (*)(Parameters...)> {};
+
+}  // namespace detail
+
+template <auto pointer>
+Procedure procedure(std::string_view name, std::vector<Parameter> parameters) {
+  using Function = detail::FunctionPointer<decltype(pointer)>;
+  using Invocation = typename Function::Invocation;
+  return {name, type_of<typename Function::Result>(), Invocation::described(std::move(parameters)),
+          [](std::span<Value> values) -> Value { return Invocation::run(pointer, values); }};
 }
 
 }  // namespace brunvik

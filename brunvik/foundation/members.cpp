@@ -140,6 +140,11 @@ Member Member::required() && {
   return std::move(*this);
 }
 
+Member Member::only_if(bool condition) && {
+  published_ = condition;
+  return std::move(*this);
+}
+
 Member Member::read_from(std::string_view column) && {
   read_column_ = column;
   written_column_ = {};
@@ -212,6 +217,12 @@ void complete_arguments(const std::vector<Parameter>& parameters, std::vector<Va
     const Parameter& parameter = parameters[arguments.size()];
     if (!parameter.optional) ado::raise(ado::error::wrong_argument_count);
     arguments.push_back(parameter.default_value);
+  }
+}
+
+Members::Members(std::initializer_list<Member> members) {
+  for (const Member& member : members) {
+    if (member.is_published()) members_.push_back(member);
   }
 }
 

@@ -3,7 +3,7 @@
 // all read it, and nothing else lists a class's members.
 //
 //   static const Members table{
-//       connection<&C::ADOConn>("ADOConn"), rows<&C::colBillItems>("colBillItems"),
+//       connection<&C::ADOConn>("ADOConn"), collection<&C::colBillItems>("colBillItems"),
 //       property<&C::ID>("ID", "Id"),       property<&C::Status>("Status", "Status").required(),
 //       verb<&C::Save>("Save"),             verb<&C::GetNewId>("GetNewId", {out("BID")})};
 #pragma once
@@ -43,6 +43,9 @@ enum class MemberKind { property, read_only_property, collection, verb };
 
 std::string_view name_of(MemberKind kind) noexcept;
 
+// Makes a record of the class that a parameter takes, for an argument that is given field by field.
+using MakeRecord = std::shared_ptr<PublicObject> (*)();
+
 struct Parameter {
   std::string_view name;
   bool by_reference = false;
@@ -50,6 +53,7 @@ struct Parameter {
   // What an omitted optional argument counts as.
   Value default_value = {};
   Type type = Type::Variant;
+  MakeRecord make_record = nullptr;
 };
 
 inline Parameter in(std::string_view name) { return {name}; }
@@ -74,6 +78,11 @@ class Member {
 
   // A null in the column is error 94 when a header is read; elsewhere a null reads as nothing (empty text, 0, false).
   Member required() &&;
+
+  // A member that only some classes of a family publish: a table leaves it out where the condition is false.
+  Member only_if(bool condition) &&;
+  static Member unpublished() { return Member().only_if(false); }
+  bool is_published() const noexcept { return published_; }
 
   // The property is filled from this column when a record is read, and no statement writes it.
   Member read_from(std::string_view column) &&;
@@ -107,6 +116,7 @@ class Member {
   MemberKind kind_ = MemberKind::property;
   Type type_ = Type::Nothing;
   bool required_ = false;
+  bool published_ = true;
   std::string_view written_column_;
   std::string_view read_column_;
   std::vector<Parameter> parameters_;
@@ -120,8 +130,7 @@ void complete_arguments(const std::vector<Parameter>& parameters, std::vector<Va
 
 class Members {
  public:
-  Members(std::initializer_list<Member> members) : members_(members) {}
-  explicit Members(std::vector<Member> members) : members_(std::move(members)) {}
+  Members(std::initializer_list<Member> members);
 
   // By name without regard to case; error 438 where there is none.
   const Member& named(std::string_view name) const;
@@ -191,7 +200,7 @@ Member connection(std::string_view name) {
 }
 
 template <auto pointer>
-Member rows(std::string_view name) {
+Member collection(std::string_view name) {
   return Member::stored(name, {}, MemberKind::collection, Type::Rows, detail::rows_of<pointer>);
 }
 

@@ -22,7 +22,7 @@ const Members& Advance::table() {
   using C = Advance;
   static const Members table{
       connection<&C::ADOConn>("ADOConn"),
-      rows<&C::colAdvanceItems>("colAdvanceItems"),
+      collection<&C::colAdvanceItems>("colAdvanceItems"),
       property<&C::ID>("ID", "Id"),
       property<&C::Manualid>("Manualid", "Manualid"),
       property<&C::Payer>("Payer", "Manager"),

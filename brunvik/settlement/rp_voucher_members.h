@@ -9,8 +9,8 @@ template <class C, auto manager>
 Members rp_voucher_members(std::string_view manager_name) {
   return {
       connection<&C::ADOConn>("ADOConn"),
-      rows<&C::colRPBItems>("colRPBItems"),
-      rows<&C::colRPBRPItems>("colRPBRPItems"),
+      collection<&C::colRPBItems>("colRPBItems"),
+      collection<&C::colRPBRPItems>("colRPBRPItems"),
       property<&C::ID>("ID", "Id"),
       property<&C::Manualid>("Manualid", "Manualid"),
       property<manager>(manager_name, "Manager"),

@@ -139,11 +139,11 @@ void Voucher::take_back(const SettledRow& row, const SourceTable& table) const {
 
 void Voucher::read_settled_rows(ado::Recordset set, const Insert& written_by) {
   SourceTable table(all_repair_codes);
-  read_rows<SettledRow>(settled_rows(), std::move(set), written_by.members_written(),
-                        [&](SettledRow& row, const ado::Recordset&) {
-                          table.pick(row.Rpablebtype);
-                          if (!table.name().empty()) read_open_amount(row, table.name());
-                        });
+  brunvik::read_rows<SettledRow>(settled_rows(), std::move(set), written_by.members_written(),
+                                 [&](SettledRow& row, const ado::Recordset&) {
+                                   table.pick(row.Rpablebtype);
+                                   if (!table.name().empty()) read_open_amount(row, table.name());
+                                 });
 }
 
 void Voucher::read_open_amount(SettledRow& row, std::string_view table) const {

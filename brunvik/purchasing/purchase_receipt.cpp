@@ -1,0 +1,205 @@
+#include "brunvik/purchasing/purchase_receipt.h"
+
+#include "brunvik/foundation/ConnOPT_Function.h"
+#include "brunvik/foundation/SqlOPT_Function.h"
+#include "brunvik/foundation/error_trap.h"
+#include "brunvik/foundation/late_binding.h"
+#include "brunvik/foundation/sql_text.h"
+#include "brunvik/settlement/advance.h"
+#include "brunvik/settlement/pay_bill.h"
+#include "brunvik/stock/moving_average_cost.h"
+
+namespace brunvik {
+
+// The members of both classes; `advance` marks those that an opening balance doesn't have.
+template <class Leaf>
+Members PurchaseReceipt::receipt_members() {
+  using C = PurchaseReceipt;
+  constexpr bool advance = std::is_same_v<Leaf, clsPurchaseInBill>;
+  return Members{
+      connection<&C::ADOConn>("ADOConn"),
+      property<&C::CreateFlag>("CreateFlag", "CreateFlag"),
+      property<&C::Nowpaybillid>("Nowpaybillid", "Nowpaybillid"),
+      property<&C::NowAdvanceBillID>("NowAdvanceBillID", "NowAdvanceBillID").only_if(advance),
+      collection<&C::colBillItems>("colBillItems"),
+      property<&C::ID>("ID", "Id"),
+      property<&C::Manualid>("Manualid", "ManualId"),
+      property<&C::Vendor>("Vendor", "Supplier"),
+      property<&C::RkrId>("RkrId", "RManager"),
+      property<&C::Salesman>("Salesman", "Salesman"),
+      property<&C::Creator>("Creator", "Creator"),
+      property<&C::Createtime>("Createtime", "CreateTime"),
+      computed<&C::Inoutflag>("Inoutflag"),
+      property<&C::Audittime>("Audittime", "AuditTime"),
+      property<&C::Status>("Status", "Status").required(),
+      property<&C::Paidamount>("Paidamount", "PaidAmount"),
+      property<&C::AdvanceAmount>("AdvanceAmount", "AdvanceAmount").only_if(advance),
+      property<&C::Closeamount>("Closeamount", "CloseAmount"),
+      property<&C::Amount>("Amount", "Amount"),
+      property<&C::BillCost>("BillCost", "BillCost"),
+      computed<&C::Closedtag>("Closedtag", "ClosedTag"),
+      property<&C::Referflag>("Referflag", "ReferFlag"),
+      property<&C::Auditor>("Auditor", "Auditor"),
+      property<&C::Referbillid>("Referbillid", "Referbillid"),
+      property<&C::Summary>("Summary", "Summary"),
+      property<&C::Remarks>("Remarks", "Remarks"),
+      verb<&C::Save>("Save"),
+      verb<&C::SaveAsDraft>("SaveAsDraft"),
+      verb<&C::Delete>("Delete"),
+      verb<&C::GetNewId>("GetNewId", {out("BID")}),
+      verb<&C::LoadLast>("LoadLast"),
+      verb<&C::GetLastId>("GetLastId", {out("LastId")}),
+      verb<&C::LoadNext>("LoadNext"),
+      verb<&C::LoadPreviou>("LoadPreviou"),
+      verb<&C::LoadById>("LoadById", {in_out("BID"), optional(in("lRowNum"), Long{-1}), optional(in("bDHBJ"), false)}),
+      verb<&C::GetNearId>("GetNearId", {in("CurBillID"), out("NearBillID"), optional(in("NextPreviousId"), false)}),
+      verb<&C::Audit>("Audit", {optional(in_out("bJKC"), false)}),
+      verb<&C::UndoAudit>("UndoAudit", {optional(in_out("bJKC"), false)}),
+  };
+}
+
+StockForm PurchaseReceipt::receipt_form(const Kind& kind, const Members& members) {
+  return {kind,
+          members,
+          WarehouseColumn::Receiver,
+          "insert into StockBill(Id,ManualId,Supplier,RManager,Salesman,Creator,CreateTime,Type,InOutFlag,Status,"
+          "[Auditor,AuditTime,]PaidAmount,<AdvanceAmount,>CloseAmount,Amount,ClosedTag,ReferFlag,Referbillid,"
+          "Nowpaybillid,<NowAdvanceBillID,>Summary,Remarks,CreateFlag) values(",
+          "update stockbill set ManualId = ,Supplier = ,RManager = ,Salesman = ,Type = ,InOutFlag = ,Status = ,"
+          "[Auditor = ,AuditTime = ,]PaidAmount = ,<AdvanceAmount = ,>CloseAmount = ,Amount = ,ClosedTag = ,"
+          "ReferFlag = ,Referbillid = ,Nowpaybillid = ,<NowAdvanceBillID = ,>Summary = ,Remarks = ,CreateFlag = "
+          " where Id=",
+          "insert into StockBillItems(BillId,RowNum,GId,GBarcode,GName,Class,Model1,Model2,unit,"
+          "qty,ActualQty,price,Amount,Cost,Receiver,Equipcode,remarks,Supplier,GoodStutas) values(",
+          {from("ActualQty", "Qty"), constant("GoodStutas", stock_status::sound)}};
+}
+
+const Members& clsPurchaseInBill::members() const {
+  static const Members table = receipt_members<clsPurchaseInBill>();
+  return table;
+}
+
+const Members& clsPurchaseInBjkcBill::members() const {
+  static const Members table = receipt_members<clsPurchaseInBjkcBill>();
+  return table;
+}
+
+const StockForm& clsPurchaseInBill::form() const {
+  static const StockForm form = receipt_form(kind(), members());
+  return form;
+}
+
+const StockForm& clsPurchaseInBjkcBill::form() const {
+  static const StockForm form = receipt_form(kind(), members());
+  return form;
+}
+
+Long PurchaseReceipt::LoadById(const std::string& BID, Long lRowNum, bool bDHBJ) noexcept {
+  return trap([&] {
+    ID = BID;
+    read_header();
+    if (!ID.empty()) read_rows_of(lRowNum, bDHBJ);
+  });
+}
+
+void PurchaseReceipt::read_rows_of(Long row_number, bool with_arrivals) {
+  constexpr Long all_rows = -1;
+  if (!with_arrivals) {
+    if (row_number == all_rows) return read_rows();
+    return take_rows(
+        execute(sql("select StockBillItems.*,warehouse.WName from StockBillItems left join Warehouse on "
+                    "stockbillitems.Receiver = Warehouse.id where stockbillitems.RowNum={} and "
+                    "stockbillitems.BillId={} order by stockbillitems.rownum",
+                    row_number, ID)));
+  }
+  std::string statement =
+      "select StockBillItems.*,warehouse.WName,AdjustStockBill.MeansOfPayment,AdjustStockBill.Amount as XFMount"
+      " from (StockBillItems left join Warehouse "
+      " on stockbillitems.Receiver = Warehouse.id) left join AdjustStockBill on "
+      " (StockBillItems.BillID=AdjustStockBill.StockID and StockBillItems.RowNum=AdjustStockBill.StockRowNum)";
+  statement += row_number == all_rows ? sql("where stockbillitems.BillId={} order by stockbillitems.StockRowNum", ID)
+                                      : sql("where AdjustStockBill.StockRowNum={} and stockbillitems.BillId={} "
+                                            "order by AdjustStockBill.StockRowNum",
+                                            row_number, ID);
+  take_rows(execute(statement));
+}
+
+void PurchaseReceipt::row_was_read(StockRow& row, const ado::Recordset& set) {
+  if (set.value("RowNum").is_null()) row.Rownum = 1;
+  for (const char* name : {"xfmount", "MeansOfPayment"}) {
+    const Member& member = StockRow::table().named(name);
+    if (set.has(member.read_column())) member.read(row, set.value(member.read_column()));
+  }
+}
+
+Long PurchaseReceipt::Audit(bool bJKC) noexcept {
+  return trap([&] {
+    if (ID.empty()) return;
+    mark(status::audited);
+    audit_voucher<clsPayBill>(Nowpaybillid);
+    // An opening balance is a debt alone: its goods came in before the books were opened.
+    if (kind().opening) return;
+    audit_voucher<clsAdvanceBill>(NowAdvanceBillID);
+    read_rows();
+    for_each_stock_row([&](StockRow& row) {
+      const Money average = AuditUpdateAverageCost(row.Gid, row.Unit, row.Class, row.Model1, row.Model2, row.Qty,
+                                                   row.price, Money::from_whole(-1));
+      write_row_cost(row, cost_at_average(average, row));
+      if (bJKC) {
+        Long result = 0;
+        poster().PostStockIn(row, false, result);
+        stop_unless_done(result);
+      }
+      update_zero_cost_issues(row.Gid);
+    });
+    BillCost = write_bill_cost();
+  });
+}
+
+// Goods that were sold or returned before any cost was known get the average of now. The join goes by the goods id
+// alone: of goods with several models each costs the row in turn.
+void PurchaseReceipt::update_zero_cost_issues(const std::string& goods) {
+  if (goods.empty()) return;
+  auto set = execute(
+      sql("select StockBillItems.*,Goods.AverageCost from (StockBillItems left join Goods ON StockBillItems.GId = "
+          "Goods.ID) left JOIN StockBill ON StockBillItems.BillId = StockBill.Id where StockBill.Status=3 and "
+          "StockBillItems.cost=0  and stockBillItems.ActualQty<>0 and (StockBill.type=5 or StockBill.type=4) and "
+          "StockBillItems.Gid={}",
+          goods));
+  for (; !set.at_end(); set.MoveNext()) {
+    const std::string goods_id = set.value("GId").joined_text();
+    const Money factor = GoodsUnitConverter(goods_id, set.value("Unit").joined_text());
+    const Money quantity = Money::from_double(factor.to_double() * set.value("ActualQty").as_double());
+    const Value& average = set.value("AverageCost");
+    const Money cost = quantity * (average.is_null() ? Money() : average.as_money());
+    const Value& bill = set.value("BillId");
+    execute(sql("update StockBillItems set Cost={} where Gid={} and RowNum={} and BillId={}", cost, goods_id,
+                set.value("RowNum"), bill));
+    execute(sql("update StockBill set BillCost=BillCost+{} where id={}", cost, bill));
+  }
+}
+
+Long PurchaseReceipt::UndoAudit(bool bJKC) noexcept {
+  return trap([&] {
+    if (ID.empty()) return;
+    // On the session's road, in upper case, and the auditor is cleared: this document alone does so.
+    std::string mark = sql("update stockbill set Status={},Auditor='',AuditTime='' where id={}", status::saved, ID);
+    ExecuteNonQuerySql(mark);
+    undo_voucher<clsPayBill>(Nowpaybillid);
+    if (kind().opening) return;
+    undo_voucher<clsAdvanceBill>(NowAdvanceBillID);
+    for_each_stock_row([&](StockRow& row) {
+      UndoAuditUpdateAverageCost(row.Gid, row.Unit, row.Class, row.Model1, row.Model2, row.Qty, row.price,
+                                 Money::from_whole(-1));
+      write_row_cost(row, Money());
+    });
+    BillCost = write_bill_cost();
+    if (bJKC) {
+      // A stock balance that can't be taken back doesn't hold up the undo.
+      Long ignored = 0;
+      poster().UndoStockIn(ID, "", true, false, ignored);
+    }
+  });
+}
+
+}  // namespace brunvik

@@ -1,0 +1,80 @@
+// Purchase receipt (进货入库) and its opening balance (进货期初): goods come in from a vendor, the average cost moves,
+// the debt to the vendor opens, and what was paid at the counter is audited with it.
+#pragma once
+
+#include "brunvik/stock/trade_document.h"
+
+namespace brunvik {
+
+class PurchaseReceipt : public TradeDocument {
+ public:
+  bool CreateFlag = false;
+  std::string Vendor;
+  // The stock keeper who received the goods.
+  std::string RkrId;
+  std::string Salesman;
+  std::string Referbillid;
+
+  Long Inoutflag() const { return kind().side; }
+
+  using Bill::Delete;
+  using Bill::GetLastId;
+  using Bill::GetNearId;
+  using Bill::GetNewId;
+  using Bill::LoadLast;
+  using Bill::LoadNext;
+  using Bill::LoadPreviou;
+  using Bill::Save;
+  using Bill::SaveAsDraft;
+
+  // Reads the bill with all rows, or with the one row of this number. With bDHBJ each row carries what goods arrivals
+  // set against it. The rows are left alone where BID is empty.
+  Long LoadById(const std::string& BID, Long lRowNum = -1, bool bDHBJ = false) noexcept;
+
+  // Takes each row into the average and costs it at the new average; mends the cost of sales that had none. The stock
+  // moves only where bJKC is true; the average moves anyhow. An opening balance only marks itself and audits its
+  // voucher, whatever bJKC says.
+  Long Audit(bool bJKC = false) noexcept;
+
+  // Takes the rows in the object out of the average again, so the bill must be loaded. Auditor and time are cleared in
+  // the table. Sales that the audit costed keep their cost.
+  Long UndoAudit(bool bJKC = false) noexcept;
+
+ protected:
+  // An opening balance has no advance.
+  std::string NowAdvanceBillID;
+  Money AdvanceAmount;
+
+  template <class Leaf>
+  static Members receipt_members();
+  static StockForm receipt_form(const Kind& kind, const Members& members);
+
+  void row_was_read(StockRow& row, const ado::Recordset& set) override;
+
+ private:
+  void read_rows_of(Long row_number, bool with_arrivals);
+  void update_zero_cost_issues(const std::string& goods);
+};
+
+class clsPurchaseInBill final : public PurchaseReceipt {
+ public:
+  using PurchaseReceipt::AdvanceAmount;
+  using PurchaseReceipt::NowAdvanceBillID;
+
+  const Kind& kind() const override { return kind::clsPurchaseInBill; }
+  const Members& members() const override;
+
+ protected:
+  const StockForm& form() const override;
+};
+
+class clsPurchaseInBjkcBill final : public PurchaseReceipt {
+ public:
+  const Kind& kind() const override { return kind::clsPurchaseInBjkcBill; }
+  const Members& members() const override;
+
+ protected:
+  const StockForm& form() const override;
+};
+
+}  // namespace brunvik

@@ -1,0 +1,55 @@
+// Purchase return (进货退货出库) and its opening balance (进货退货期初): goods go back to the vendor. The mirror of the
+// receipt: its audit takes the rows out of the average at their own price, its undo takes them in again.
+#pragma once
+
+#include "brunvik/stock/trade_document.h"
+
+namespace brunvik {
+
+class PurchaseReturn : public TradeDocument {
+ public:
+  // The vendor who takes the goods back.
+  std::string Vendor;
+  // The stock keeper, and the person who handles the return.
+  std::string CkrId, ThrId;
+  Long Deliverymethod = 0;
+
+  using Bill::Delete;
+  using Bill::GetLastId;
+  using Bill::GetNearId;
+  using Bill::GetNewId;
+  using Bill::LoadById;
+  using Bill::LoadLast;
+  using Bill::LoadNext;
+  using Bill::LoadPreviou;
+  using Bill::Save;
+  using Bill::SaveAsDraft;
+
+  // The stock moves always. An opening balance only marks itself and audits its voucher.
+  Long Audit() noexcept;
+  Long UndoAudit() noexcept;
+
+  const Members& members() const override { return table(); }
+
+ protected:
+  static const Members& table();
+  static StockForm return_form(const Kind& kind);
+};
+
+class clsPurchaseOutBill final : public PurchaseReturn {
+ public:
+  const Kind& kind() const override { return kind::clsPurchaseOutBill; }
+
+ protected:
+  const StockForm& form() const override;
+};
+
+class clsPurchaseOutBjkcBill final : public PurchaseReturn {
+ public:
+  const Kind& kind() const override { return kind::clsPurchaseOutBjkcBill; }
+
+ protected:
+  const StockForm& form() const override;
+};
+
+}  // namespace brunvik

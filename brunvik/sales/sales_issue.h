@@ -1,0 +1,84 @@
+// Sales issue (销售出库) and its opening balance (销售期初): goods go out to a customer at the present average cost,
+// the customer's debt opens, and money taken at the counter is audited with it.
+#pragma once
+
+#include "brunvik/sales/sales_document.h"
+
+namespace brunvik {
+
+// The numbers of this document have no prefix of their own: several series live under one kind, and the host names one
+// in sIDQZ. Without a name every series counts.
+class SalesIssue : public SalesDocument {
+ public:
+  // Only a read fills these two: the bill is settled, and a shipment has taken it.
+  bool JQBJ = false, FHBJ = false;
+  bool CreateFlag = false;
+  std::string ClientId;
+  // The stock keeper who hands the goods out.
+  std::string CkrId;
+  std::string Salesman;
+  std::string Invoicename;
+  Long Invoicetype = 0;
+  Single Taxrate = 0;
+  Integer Discounttype = 0;
+  std::string Discountcard;
+  Single Discountrate = 0;
+  Long Deliverymethod = 0;
+  std::string Referbillid;
+
+  using Bill::Delete;
+  using Bill::LoadById;
+  using Bill::Save;
+  using Bill::SaveAsDraft;
+
+  Long LoadLast(const std::string& sIDQZ = {}) noexcept;
+  Long GetLastId(std::string& LastId, const std::string& sIDQZ = {}) noexcept;
+  Long LoadNext(const std::string& sIDQZ = {}) noexcept;
+  Long LoadPreviou(const std::string& sIDQZ = {}) noexcept;
+  Long GetNewId(std::string& BID, const std::string& sIDQZ = {}) noexcept;
+  Long GetNearId(const std::string& CurBillID, std::string& NearBillID, bool NextPreviousId = false,
+                 const std::string& sIDQZ = {}) noexcept;
+
+  // The stock moves only where bJKC is false; on a purchase receipt it moves where bJKC is true.
+  Long Audit(bool bJKC = false) noexcept { return audit(bJKC); }
+  Long UndoAudit(bool bJKC = false) noexcept { return undo_audit(bJKC); }
+
+ protected:
+  // An opening balance has no advance.
+  std::string NowAdvanceBillID;
+  Money AdvanceAmount;
+
+  template <class Leaf>
+  static Members issue_members();
+  static StockForm issue_form(const Kind& kind, const Members& members);
+
+  void audit_advance() override;
+  void undo_advance() override;
+  void post(const StockRow& row, Long& result) override;
+  void undo_post(Long& result) override;
+  void find_last(std::string& last, std::string_view series) override;
+  void find_near(const std::string& current, std::string& near, bool next, std::string_view series) override;
+};
+
+class clsSalesOutBill final : public SalesIssue {
+ public:
+  using SalesIssue::AdvanceAmount;
+  using SalesIssue::NowAdvanceBillID;
+
+  const Kind& kind() const override { return kind::clsSalesOutBill; }
+  const Members& members() const override;
+
+ protected:
+  const StockForm& form() const override;
+};
+
+class clsSalesOutBjkcBill final : public SalesIssue {
+ public:
+  const Kind& kind() const override { return kind::clsSalesOutBjkcBill; }
+  const Members& members() const override;
+
+ protected:
+  const StockForm& form() const override;
+};
+
+}  // namespace brunvik

@@ -1,0 +1,93 @@
+#include "brunvik/sales/sales_return.h"
+
+#include "brunvik/foundation/late_binding.h"
+
+namespace brunvik {
+
+template <class Leaf>
+Members SalesReturn::return_members() {
+  using C = SalesReturn;
+  constexpr bool opening = std::is_same_v<Leaf, clsSalesInBjkcBill>;
+  std::vector<Parameter> stock_stays;
+  if (!opening) stock_stays.push_back(optional(in_out("IsBJKC"), false));
+  return Members{
+      connection<&C::ADOConn>("ADOConn"),
+      property<&C::Nowpaybillid>("Nowpaybillid", "NowPayBillId"),
+      collection<&C::colBillItems>("colBillItems"),
+      property<&C::ID>("ID", "Id"),
+      property<&C::Manualid>("Manualid", "ManualId"),
+      property<&C::RkrId>("RkrId", "RManager"),
+      property<&C::ClientId>("ClientId", "Supplier"),
+      property<&C::Manager>("Manager", "Salesman"),
+      property<&C::Creator>("Creator", "Creator"),
+      property<&C::Createtime>("Createtime", "CreateTime"),
+      property<&C::Status>("Status", "Status").required(),
+      property<&C::Auditor>("Auditor", "Auditor"),
+      property<&C::Audittime>("Audittime", "AuditTime"),
+      property<&C::Paidamount>("Paidamount", "PaidAmount"),
+      property<&C::Closeamount>("Closeamount", "CloseAmount"),
+      property<&C::Amount>("Amount", "Amount"),
+      property<&C::BillCost>("BillCost", "BillCost"),
+      property<&C::Invoicename>("Invoicename", "InvoiceName"),
+      property<&C::Invoicetype>("Invoicetype", "InvoiceType"),
+      property<&C::Taxrate>("Taxrate", "TaxRate"),
+      computed<&C::Closedtag>("Closedtag", "ClosedTag"),
+      property<&C::Referflag>("Referflag", "ReferFlag"),
+      opening ? property<&C::Referbillid>("Referbillid") : property<&C::Referbillid>("Referbillid", "Referbillid"),
+      property<&C::Summary>("Summary", "Summary"),
+      property<&C::Remarks>("Remarks", "Remarks"),
+      verb<&C::Save>("Save"),
+      verb<&C::SaveAsDraft>("SaveAsDraft"),
+      verb<&C::Delete>("Delete"),
+      verb<&C::DeleteSalesInBillAndItems>("DeleteSalesInBillAndItems"),
+      verb<&C::LoadLast>("LoadLast"),
+      verb<&C::GetLastId>("GetLastId", {out("LastId")}),
+      verb<&C::LoadNext>("LoadNext"),
+      verb<&C::LoadPreviou>("LoadPreviou"),
+      verb<&C::GetNewId>("GetNewId", {out("BID")}),
+      verb<&C::LoadById>("LoadById", {in_out("BID")}),
+      verb<&C::GetNearId>("GetNearId", {in("CurBillID"), out("NearBillID"), optional(in("NextPreviousId"), false)}),
+      verb<&Leaf::Audit>("Audit", stock_stays),
+      verb<&Leaf::UndoAudit>("UndoAudit", stock_stays),
+  };
+}
+
+StockForm SalesReturn::return_form(const Kind& kind, const Members& members) {
+  return {kind,
+          members,
+          WarehouseColumn::Receiver,
+          "insert into StockBill(Id,ManualId,Supplier,RManager,Salesman,Creator,CreateTime,Type,InOutFlag,Status,"
+          "[Auditor,AuditTime,]PaidAmount,CloseAmount,Amount,InvoiceName,InvoiceType,TaxRate,ClosedTag,ReferFlag,"
+          "<Referbillid,>NowPayBillId,Summary,Remarks) values(",
+          "update stockbill set ManualId = ,Supplier = ,RManager = ,Salesman = ,Type = ,InOutFlag = ,Status = ,"
+          "[Auditor = ,AuditTime = ,]PaidAmount = ,CloseAmount = ,Amount = ,InvoiceName = ,InvoiceType = ,TaxRate = ,"
+          "ClosedTag = ,ReferFlag = ,<Referbillid = ,>NowPayBillId = ,Summary = ,Remarks =  where Id=",
+          "insert into StockBillItems(BillId,RowNum,GId,GBarcode,GName,Class,Model1,Model2,unit,qty,ActualQty,price,"
+          "Amount,Receiver,Outfactorydate,Equipcode,Buydate,Accessory,remarks,GoodStutas) values(",
+          {constant("GoodStutas", stock_status::sound)}};
+}
+
+const Members& clsSalesInBill::members() const {
+  static const Members table = return_members<clsSalesInBill>();
+  return table;
+}
+
+const Members& clsSalesInBjkcBill::members() const {
+  static const Members table = return_members<clsSalesInBjkcBill>();
+  return table;
+}
+
+const StockForm& clsSalesInBill::form() const {
+  static const StockForm form = return_form(kind(), members());
+  return form;
+}
+
+const StockForm& clsSalesInBjkcBill::form() const {
+  static const StockForm form = return_form(kind(), members());
+  return form;
+}
+
+void SalesReturn::post(const StockRow& row, Long& result) { poster().PostSalesReturn(row, result); }
+void SalesReturn::undo_post(Long& result) { poster().UndoSalesReturn(ID, result); }
+
+}  // namespace brunvik

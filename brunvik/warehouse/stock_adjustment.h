@@ -1,0 +1,41 @@
+// Stock adjustment (调账单): the document that only records. Its audit moves no stock and writes no cost.
+#pragma once
+
+#include <string>
+
+#include "brunvik/warehouse/warehouse_document.h"
+
+namespace brunvik {
+
+class clsTZBill final : public WarehouseDocument {
+ public:
+  Collection<StockRow> colBillItems;
+  std::string RManager;
+  Money Paidamount, BillCost;
+  Long Referflag = 0;
+
+  using Bill::Delete;
+  using Bill::GetBill;
+  using Bill::GetLastId;
+  using Bill::GetNewId;
+  using Bill::LoadById;
+  using Bill::LoadLast;
+  using Bill::LoadNext;
+  using Bill::LoadPreviou;
+  using Bill::Save;
+  using Bill::SaveAsDraft;
+
+  // Write the status, and nothing else; with an empty ID nothing at all.
+  Long Audit() noexcept;
+  Long UndoAudit() noexcept;
+
+  const Kind& kind() const override { return kind::clsTZBill; }
+  const Members& members() const override;
+
+ protected:
+  const StockForm& form() const override;
+  RowCollection& rows() override { return colBillItems; }
+  void find_last(std::string& last, std::string_view series) override;
+};
+
+}  // namespace brunvik

@@ -1,0 +1,67 @@
+#include "drivers/sqlite/catalogue.h"
+
+#include <sqlite3.h>
+
+#include <algorithm>
+
+#include "brunvik/ado/names.h"
+#include "drivers/sqlite/failure.h"
+#include "drivers/sqlite/statement.h"
+
+namespace brunvik::sqlite {
+
+namespace {
+
+constexpr std::string_view columns_of = "select name, type from pragma_table_info(?)";
+
+std::string_view column_text(sqlite3_stmt* statement, int column) {
+  const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
+  return text ? std::string_view(text, static_cast<std::size_t>(sqlite3_column_bytes(statement, column)))
+              : std::string_view();
+}
+
+}  // namespace
+
+ColumnType type_of_declaration(std::string_view declaration) noexcept {
+  std::string_view word = declaration.substr(0, declaration.find('('));
+  while (word.ends_with(' ')) word.remove_suffix(1);
+  const auto is = [word](std::string_view name) { return ado::same_name(word, name); };
+  if (is("MONEY")) return ColumnType::money;
+  if (is("REAL")) return ColumnType::single;
+  if (is("INTEGER") || is("INT") || is("SMALLINT") || is("TINYINT") || is("BIT")) return ColumnType::whole;
+  if (is("TEXT") || is("CHAR") || is("VARCHAR") || is("NCHAR") || is("NVARCHAR")) return ColumnType::text;
+  return ColumnType::other;
+}
+
+std::optional<ColumnType> type_of_column(const TableDescription& table, std::string_view name) noexcept {
+  const auto column = std::find_if(table.begin(), table.end(), [name](const ColumnDescription& description) {
+    return ado::same_name(description.name, name);
+  });
+  if (column == table.end()) return {};
+  return column->type;
+}
+
+const TableDescription& Catalogue::table(std::string_view name) {
+  std::string key(name);
+  std::transform(key.begin(), key.end(), key.begin(), ado::lower);
+  const auto known = tables_.find(key);
+  if (known != tables_.end()) return known->second;
+
+  TableDescription columns;
+  sqlite3_stmt* prepared = nullptr;
+  int code = sqlite3_prepare_v2(database_, columns_of.data(), static_cast<int>(columns_of.size()), &prepared, nullptr);
+  const Statement statement(prepared);
+  if (code == SQLITE_OK) {
+    sqlite3_bind_text(prepared, 1, name.data(), static_cast<int>(name.size()), SQLITE_STATIC);
+    while ((code = sqlite3_step(prepared)) == SQLITE_ROW) {
+      columns.push_back({std::string(column_text(prepared, 0)), type_of_declaration(column_text(prepared, 1))});
+    }
+  }
+  if (code != SQLITE_DONE) raise_failure(database_, code, Stage::preparing, columns_of);
+  static const TableDescription none;
+  // Names that are no tables come from texts, and there is no end to them.
+  if (columns.empty()) return none;
+  return tables_.emplace(std::move(key), std::move(columns)).first->second;
+}
+
+}  // namespace brunvik::sqlite

@@ -1,0 +1,68 @@
+// A connection to a SQLite database: a file, or the memory of the process.
+//
+//   std::shared_ptr<sqlite::Connection> books = sqlite::open("books.db", {.create = true});
+//   books->Execute("select * from goods where id='G1'");
+//
+// A statement comes as plain text in the words of either dialect. What stands between apostrophes, and every number,
+// is a value and nothing else: it is cut out of the text and bound, so that no value can change what a statement does,
+// and the prepared statement of each shape is kept. Money columns (declared MONEY) hold exact amounts of four places,
+// REAL columns single-precision numbers; text compares without regard to ASCII case and to trailing blanks.
+//
+// A connection belongs to one thread at a time. Several connections, of one process or of many, may share a file.
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "brunvik/ado/connection.h"
+
+namespace brunvik::sqlite {
+
+enum class Synchronous {
+  full,    // what was acknowledged is kept, also when the power goes
+  normal,  // the last moments can be lost with the power, never with the process; the file stays whole
+};
+
+struct Options {
+  Synchronous synchronous = Synchronous::full;
+
+  // Make the file where there is none. Without it a missing file is an error.
+  bool create = false;
+
+  // How long a statement waits for a database that another connection holds, until it fails with timed_out.
+  std::chrono::milliseconds busy_timeout{5'000};
+
+  // How many shapes of statements are kept prepared; at least one is.
+  std::size_t cached_statements = 512;
+};
+
+class Engine;
+
+class Connection final : public ado::Connection {
+ public:
+  explicit Connection(std::unique_ptr<Engine> engine);
+  ~Connection() override;
+
+  // Beside the errors of every connection: an amount that no money column can keep exactly (from
+  // ±900,719,925,474.0992 on) is constraint_violated.
+  ado::Recordset Execute(std::string_view CommandText) override;
+  Long State() const noexcept override { return engine_ ? 1 : 0; }
+
+  // Closing a closed connection does nothing.
+  void Close() noexcept;
+
+  // How many shapes of statements are kept prepared now.
+  std::size_t cached_statements() const noexcept;
+
+ private:
+  std::unique_ptr<Engine> engine_;
+};
+
+// Opens the database at a path, or ":memory:" for one that lives as long as the connection. Throws a RuntimeError: of
+// provider_failed where there is no file or it is no database, of timed_out where another process holds it for itself.
+std::shared_ptr<Connection> open(const std::string& path, const Options& options = {});
+
+}  // namespace brunvik::sqlite

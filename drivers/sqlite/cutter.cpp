@@ -1,0 +1,199 @@
+#include "drivers/sqlite/cutter.h"
+
+#include <cstring>
+
+#include "brunvik/ado/date.h"
+#include "brunvik/ado/errors.h"
+#include "brunvik/ado/names.h"
+#include "drivers/sqlite/characters.h"
+#include "drivers/sqlite/failure.h"
+
+namespace brunvik::sqlite {
+
+namespace {
+
+bool works_on_rows(std::string_view statement) {
+  const auto first = statement.find_first_not_of(" \t\r\n(");
+  if (first == std::string_view::npos) return false;
+  std::size_t end = first;
+  while (end < statement.size() && is_word(statement[end])) ++end;
+  const std::string_view word = statement.substr(first, end - first);
+  for (const std::string_view verb : {"select", "insert", "update", "delete", "with", "replace", "values", "explain"}) {
+    if (ado::same_name(word, verb)) return true;
+  }
+  return false;
+}
+
+// The four bytes at a place as lower-case letters, to be compared as one number.
+std::uint32_t letters(const char* place) noexcept {
+  std::uint32_t four = 0;
+  std::memcpy(&four, place, sizeof four);
+  return four | 0x20202020U;
+}
+
+enum class Keeps { nothing, the_next_literal, the_rest };
+
+// Which literals a word keeps in the text.
+Keeps kept_by(const char* word, std::ptrdiff_t length) noexcept {
+  switch (length) {
+    case 3:
+      return ado::same_name({word, 3}, "top") ? Keeps::the_next_literal : Keeps::nothing;
+    case 4:
+      return letters(word) == letters("like") ? Keeps::the_next_literal : Keeps::nothing;
+    case 5: {
+      const std::uint32_t four = letters(word);
+      const char last = ado::lower(word[4]);
+      const bool rest = (four == letters("orde") && last == 'r') || (four == letters("grou") && last == 'p') ||
+                        (four == letters("limi") && last == 't');
+      return rest ? Keeps::the_rest : Keeps::nothing;
+    }
+    case 6:
+      return letters(word) == letters("esca") && ado::same_name({word + 4, 2}, "pe") ? Keeps::the_next_literal
+                                                                                  : Keeps::nothing;
+    default:
+      return Keeps::nothing;
+  }
+}
+
+// The place behind the number that begins at a place; null where it runs into a word.
+const char* end_of_number(const char* place, const char* end) noexcept {
+  while (place != end && is_digit(*place)) ++place;
+  if (place != end && *place == '.') {
+    ++place;
+    while (place != end && is_digit(*place)) ++place;
+  }
+  if (place != end && (*place == 'e' || *place == 'E')) {
+    const char* exponent = place + 1;
+    if (exponent != end && (*exponent == '+' || *exponent == '-')) ++exponent;
+    if (exponent == end || !is_digit(*exponent)) return nullptr;
+    place = exponent;
+    while (place != end && is_digit(*place)) ++place;
+  }
+  return place != end && is_word(*place) ? nullptr : place;
+}
+
+bool is_date(std::string_view content) {
+  try {
+    ado::parse_date(content);
+    return true;
+  } catch (const ado::RuntimeError&) {
+    return false;
+  }
+}
+
+}  // namespace
+
+bool Cutter::cut(std::string_view statement) {
+  literals_.clear();
+  length_ = 0;
+  if (!works_on_rows(statement)) return false;
+  // A mark is never longer than its literal.
+  if (shape_.size() < statement.size()) shape_.resize(statement.size());
+
+  const char* place = statement.data();
+  const char* const end = place + statement.size();
+  const char* copied = place;  // all before it is in the shape
+  char* out = shape_.data();
+  bool keep_next = false;
+  bool keep_rest = false;
+  int depth = 0;
+  int rest_depth = 0;
+
+  const auto copy_until = [&](const char* until) {
+    std::memcpy(out, copied, static_cast<std::size_t>(until - copied));
+    out += until - copied;
+  };
+  const auto found = [&](LiteralKind kind, const char* first, std::string_view content, bool has_apostrophes) {
+    if (keep_next || keep_rest) {
+      if (content.find('\0') != std::string_view::npos) refuse("A zero byte has no place in a pattern.", statement);
+      keep_next = false;
+      return;
+    }
+    copy_until(first);
+    *out++ = mark_of(kind);
+    copied = place;
+    literals_.push_back({content, kind, has_apostrophes});
+  };
+  const auto behind = [&](char closing, std::string_view what) {
+    const void* const found_at = std::memchr(place, closing, static_cast<std::size_t>(end - place));
+    if (!found_at) refuse(std::string(what) + " has no end.", statement);
+    return static_cast<const char*>(found_at) + 1;
+  };
+
+  while (place != end) {
+    const char* const first = place;
+    switch (character(*place)) {
+      case Character::other:
+        ++place;
+        break;
+      case Character::word: {
+        do {
+          ++place;
+        } while (place != end && is_word(*place));
+        const Keeps keeps = kept_by(first, place - first);
+        if (keeps == Keeps::the_next_literal) keep_next = true;
+        if (keeps == Keeps::the_rest && !keep_rest) {
+          keep_rest = true;
+          rest_depth = depth;
+        }
+        break;
+      }
+      case Character::point:
+        // The point of a name, as in StockBill.Id, or the start of a number.
+        if (place + 1 == end || !is_digit(place[1]) ||
+            (place != statement.data() && (is_word(place[-1]) || place[-1] == ']' || place[-1] == '"'))) {
+          ++place;
+          break;
+        }
+        [[fallthrough]];
+      case Character::digit:
+        place = end_of_number(place, end);
+        if (!place) refuse("A number runs into a word: " + std::string(first, end), statement);
+        found(LiteralKind::number, first, {first, place}, false);
+        break;
+      case Character::apostrophe: {
+        ++place;
+        bool has_apostrophes = false;
+        for (;;) {
+          place = behind('\'', "A text");
+          if (place == end || *place != '\'') break;
+          has_apostrophes = true;
+          ++place;
+        }
+        found(LiteralKind::text, first, {first + 1, place - 1}, has_apostrophes);
+        break;
+      }
+      case Character::number_sign: {
+        ++place;
+        place = behind('#', "A date");
+        const std::string_view content(first + 1, place - 1);
+        if (!is_date(content)) refuse("This is no date: #" + std::string(content) + "#", statement);
+        found(LiteralKind::date, first, content, false);
+        break;
+      }
+      case Character::opening_bracket:
+        ++place;
+        place = behind(']', "A name in brackets");
+        break;
+      case Character::quotation_mark:
+        ++place;
+        place = behind('"', "A name in quotation marks");
+        break;
+      case Character::opening_parenthesis:
+        ++place;
+        ++depth;
+        break;
+      case Character::closing_parenthesis:
+        ++place;
+        if (--depth < rest_depth) keep_rest = false;
+        break;
+      case Character::refused:
+        refuse("A statement has no place for the character '" + std::string(1, *place) + "'.", statement);
+    }
+  }
+  copy_until(end);
+  length_ = static_cast<std::size_t>(out - shape_.data());
+  return true;
+}
+
+}  // namespace brunvik::sqlite

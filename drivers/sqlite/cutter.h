@@ -1,0 +1,42 @@
+// Cuts the values out of a statement's text in one pass, without touching the heap once it has warmed up.
+//
+// What is left is the statement's shape: its words, with a mark where each value stood. The literals behind LIKE and
+// TOP, and those behind ORDER, GROUP and LIMIT, mean more than a value there and stay in the shape.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace brunvik::sqlite {
+
+enum class LiteralKind : std::uint8_t { text, number, date };
+
+// The mark of a literal in a shape: a byte that no statement holds outside of its literals.
+constexpr char mark_of(LiteralKind kind) { return static_cast<char>(1 + static_cast<int>(kind)); }
+
+struct Literal {
+  std::string_view content;  // between the apostrophes or number signs; a part of the statement's text
+  LiteralKind kind;
+  bool has_apostrophes;  // each stands there twice
+};
+
+class Cutter {
+ public:
+  // False for a statement that does not work on rows (DDL, a pragma): it has no shape. Error statement_refused for a
+  // literal without an end, and for what neither dialect knows.
+  bool cut(std::string_view statement);
+
+  // Good until the next cut.
+  std::string_view shape() const noexcept { return {shape_.data(), length_}; }
+  std::span<const Literal> literals() const noexcept { return literals_; }
+
+ private:
+  std::string shape_;
+  std::size_t length_ = 0;
+  std::vector<Literal> literals_;
+};
+
+}  // namespace brunvik::sqlite

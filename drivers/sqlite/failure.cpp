@@ -1,0 +1,45 @@
+#include "drivers/sqlite/failure.h"
+
+#include <sqlite3.h>
+
+#include <utility>
+
+#include "brunvik/ado/errors.h"
+
+namespace brunvik::sqlite {
+
+namespace {
+
+namespace error = ado::error;
+
+Long number_of(int code, Stage stage, std::string_view engine_text) {
+  switch (code & 0xff) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+      return error::timed_out;
+    case SQLITE_CONSTRAINT:
+      return error::constraint_violated;
+    case SQLITE_ERROR:
+      if (stage == Stage::running) return error::provider_failed;
+      // A missing table has no code of its own.
+      return engine_text.starts_with("no such table") ? error::no_such_table : error::statement_refused;
+    default:
+      return error::provider_failed;
+  }
+}
+
+}  // namespace
+
+void raise_failure(int code, Stage stage, std::string_view engine_text, std::string_view statement) {
+  throw ado::RuntimeError(number_of(code, stage, engine_text), std::string(engine_text), std::string(statement));
+}
+
+void raise_failure(sqlite3* database, int code, Stage stage, std::string_view statement) {
+  raise_failure(code, stage, database ? sqlite3_errmsg(database) : sqlite3_errstr(code), statement);
+}
+
+void refuse(std::string reason, std::string_view statement) {
+  throw ado::RuntimeError(error::statement_refused, std::move(reason), std::string(statement));
+}
+
+}  // namespace brunvik::sqlite

@@ -1,0 +1,25 @@
+// What SQLite reports, as our run-time errors: with their number, the engine's own text, and the statement.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "brunvik/ado/types.h"
+
+struct sqlite3;
+
+namespace brunvik::sqlite {
+
+// SQLite has one code for a text that it doesn't understand and for a function that fails while it runs.
+enum class Stage { preparing, running };
+
+// The error of a result code (also an extended one) with its text.
+[[noreturn]] void raise_failure(int code, Stage stage, std::string_view engine_text, std::string_view statement);
+
+// The error that a database met last.
+[[noreturn]] void raise_failure(sqlite3* database, int code, Stage stage, std::string_view statement);
+
+// The statement is refused before SQLite sees it.
+[[noreturn]] void refuse(std::string reason, std::string_view statement);
+
+}  // namespace brunvik::sqlite

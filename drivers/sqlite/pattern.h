@@ -1,0 +1,22 @@
+// LIKE patterns: % for any text, _ for one character, and in brackets one character of a list, as in [_], [a-f], [^0-9].
+// Letters of ASCII match without regard to case.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace brunvik::sqlite {
+
+// A pattern in the engine's words: what stands behind the column, LIKE or NOT LIKE left in front of it.
+struct TranslatedPattern {
+  bool has_lists;       // only the driver's own matching knows them
+  std::string literal;  // with its apostrophes, and with an ESCAPE where it needs one
+};
+
+// `literal` is a text with its apostrophes, as it stands in the statement. Throws std::invalid_argument for a bracket
+// without an end.
+TranslatedPattern translate_pattern(std::string_view literal);
+
+bool matches(std::string_view pattern, std::string_view text) noexcept;
+
+}  // namespace brunvik::sqlite

@@ -1,0 +1,397 @@
+#include "drivers/sqlite/rewriting.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <span>
+#include <stdexcept>
+
+#include "drivers/sqlite/characters.h"
+#include "drivers/sqlite/expression.h"
+#include "drivers/sqlite/failure.h"
+#include "drivers/sqlite/functions.h"
+#include "drivers/sqlite/pattern.h"
+#include "drivers/sqlite/scope.h"
+#include "drivers/sqlite/tokens.h"
+
+namespace brunvik::sqlite {
+
+namespace {
+
+using Words = std::span<const std::string_view>;
+
+constexpr std::string_view verbs[] = {"select", "insert", "replace", "update", "delete", "values"};
+constexpr std::string_view ends_of_list[] = {"from",  "where", "group",  "having",    "order",
+                                             "limit", "union", "except", "intersect", "returning"};
+constexpr std::string_view compounds[] = {"union", "except", "intersect"};
+constexpr std::string_view as[] = {"as"};
+
+class Writer {
+ public:
+  void write(std::string_view words, bool blank_before) {
+    const bool touching = !text_.empty() && !words.empty() &&
+                          ((is_word(text_.back()) && (is_word(words.front()) || words.front() == '?')) ||
+                           (text_.back() == '-' && words.front() == '-'));
+    if ((blank_before || touching) && !text_.empty()) text_ += ' ';
+    text_ += words;
+  }
+
+  std::string take() { return std::move(text_); }
+
+ private:
+  std::string text_;
+};
+
+class Rewriter {
+ public:
+  Rewriter(std::span<const Token> tokens, Catalogue& catalogue)
+      : tokens_(tokens), catalogue_(catalogue), scope_(tokens, catalogue), expressions_(tokens, scope_) {
+    const auto parameters = std::count_if(tokens.begin(), tokens.end(),
+                                          [](const Token& token) { return token.kind == TokenKind::parameter; });
+    result_.targets.resize(static_cast<std::size_t>(parameters));
+  }
+
+  Rewritten run() {
+    const std::size_t end = tokens_.size();
+    const std::size_t verb = expressions_.find(0, end, verbs);
+    range(0, verb);
+    if (verb < end) statement(verb, end);
+    result_.text = out_.take();
+    return std::move(result_);
+  }
+
+ private:
+  bool is(std::size_t place, std::string_view word) const { return place < tokens_.size() && tokens_[place].is(word); }
+  bool is_symbol(std::size_t place, std::string_view symbol) const {
+    return place < tokens_.size() && tokens_[place].is_symbol(symbol);
+  }
+
+  void statement(std::size_t verb, std::size_t end) {
+    if (is(verb, "insert") || is(verb, "replace")) return insert(verb, end);
+    if (is(verb, "update")) return update(verb, end);
+    if (is(verb, "select")) note_amounts(verb + 1, end);
+    range(verb, end);
+  }
+
+  // insert into T(A,B) values(1,2),(3,4) or insert into T(A,B) select 1,2
+  void insert(std::size_t place, std::size_t end) {
+    while (place < end && !is(place, "into")) write(place++);
+    if (place < end) write(place++);
+    const std::size_t table = place;
+    if (place < end) place = write_path(place, end);
+    std::vector<ColumnType> types = types_of_columns(table, place, end);
+    if (is_symbol(place, "(")) {
+      const std::size_t behind = std::min(expressions_.closing(place) + 1, end);
+      while (place < behind) write(place++);
+    }
+    if (is(place, "select")) {
+      std::optional<std::string> top;
+      const std::size_t items = select_words(place, end, top);
+      const std::size_t items_end = expressions_.find(items, end, ends_of_list);
+      if (!has_star(items, items_end)) {
+        assign_items(items, items_end, types);
+        place = items_end;
+      } else {
+        place = items;
+      }
+      return range(place, end, std::move(top));
+    }
+    if (is(place, "values")) {
+      write(place++);
+      while (is_symbol(place, "(") && expressions_.closing(place) < end) {
+        const std::size_t closing = expressions_.closing(place);
+        write(place);
+        assign_items(place + 1, closing, types);
+        write(closing);
+        place = closing + 1;
+        if (is_symbol(place, ",")) write(place++);
+      }
+    }
+    range(place, end);
+  }
+
+  std::vector<ColumnType> types_of_columns(std::size_t table, std::size_t place, std::size_t end) {
+    std::vector<ColumnType> types;
+    if (place == table) return types;
+    const TableDescription& columns = catalogue_.table(bare_name(tokens_[place - 1]));
+    if (is_symbol(place, "(") && expressions_.closing(place) < end) {
+      for (std::size_t name = place + 1; name < expressions_.closing(place); ++name) {
+        if (is_symbol(name, ",")) continue;
+        types.push_back(type_of_column(columns, bare_name(tokens_[name])).value_or(ColumnType::other));
+      }
+    } else {
+      for (const ColumnDescription& column : columns) types.push_back(column.type);
+    }
+    return types;
+  }
+
+  void assign_items(std::size_t first, std::size_t end, std::span<const ColumnType> types) {
+    for (std::size_t item = 0; first < end; ++item) {
+      const std::size_t item_end = expressions_.end_of_item(first, end);
+      assign(first, item_end, item < types.size() ? types[item] : ColumnType::other);
+      if (item_end < end) write(item_end);
+      first = item_end + 1;
+    }
+  }
+
+  // update T set A=1,B=B+1 where C=2
+  void update(std::size_t place, std::size_t end) {
+    static constexpr std::string_view set[] = {"set"};
+    static constexpr std::string_view behind[] = {"where", "from", "returning", "order", "limit"};
+    const std::size_t list = expressions_.find(place, end, set);
+    const TableDescription* columns = nullptr;
+    while (place < list) {
+      if (!columns && tokens_[place].is_name() && !is_keyword(tokens_[place])) {
+        const TableDescription& found = catalogue_.table(bare_name(tokens_[place]));
+        if (!found.empty()) columns = &found;
+      }
+      write(place++);
+    }
+    if (place == end) return;
+    write(place++);
+    const std::size_t list_end = expressions_.find(place, end, behind);
+    while (place < list_end) {
+      const std::size_t item_end = expressions_.end_of_item(place, list_end);
+      assignment(place, item_end, columns);
+      if (item_end < list_end) write(item_end);
+      place = item_end + 1;
+    }
+    range(list_end, end);
+  }
+
+  void assignment(std::size_t place, std::size_t end, const TableDescription* columns) {
+    // One dialect lets the table stand in front of the column.
+    while (place + 2 < end && tokens_[place].is_name() && is_symbol(place + 1, ".")) place += 2;
+    if (place + 2 >= end || !tokens_[place].is_name() || !is_symbol(place + 1, "=")) return range(place, end);
+    const std::string_view name = bare_name(tokens_[place]);
+    write(place);
+    write(place + 1);
+    const auto type = columns ? type_of_column(*columns, name) : std::nullopt;
+    assign(place + 2, end, type.value_or(ColumnType::other));
+  }
+
+  // An expression whose value goes into a column.
+  void assign(std::size_t first, std::size_t end, ColumnType type) {
+    if (first == end || type == ColumnType::other || type == ColumnType::whole) return range(first, end);
+    std::size_t bare = first;
+    while (bare < end && is_sign(tokens_[bare]) && type != ColumnType::text) ++bare;
+    if (bare + 1 == end) {
+      const Token& token = tokens_[bare];
+      if (token.kind == TokenKind::parameter) {
+        result_.targets[token.parameter] = type == ColumnType::text    ? Target::text
+                                           : type == ColumnType::money ? Target::money
+                                                                       : Target::single;
+        return range(first, end);
+      }
+      if (token.is("null")) return range(first, end);
+    }
+    const bool is_column = tokens_[first].is_name() && !is_keyword(tokens_[first]) &&
+                           expressions_.end_of_path(first, end) == end;
+    if (is_column && expressions_.type_of_path(first, end) == type) return range(first, end);
+    out_.write(type == ColumnType::text ? "rtrim(" : type == ColumnType::money ? money_function : single_function,
+               tokens_[first].blank_before);
+    if (type != ColumnType::text) out_.write("(", false);
+    const Run run = expressions_.run_at(first, end);
+    if (run.end == end) {
+      operands(first, end, run.kind == Arithmetic::money);
+    } else {
+      range(first, end);
+    }
+    out_.write(")", false);
+  }
+
+  // Everything whose value isn't assigned. The parentheses in it are closed in it.
+  void range(std::size_t place, std::size_t end, std::optional<std::string> top = {}) {
+    if (place < end && !is(place, "select") && top && expressions_.find(place, end, compounds) < end) refuse_compound();
+    while (place < end) {
+      const Token& token = tokens_[place];
+      if (token.is("select")) {
+        if (top) refuse_compound();
+        place = select_words(place, end, top);
+        if (top && expressions_.find(place, end, compounds) < end) refuse_compound();
+      } else if (token.is("delete") && is_symbol(place + 1, "*")) {
+        write(place);
+        place += 2;
+      } else if (token.is("in") && is_symbol(place + 1, "(") && is_symbol(place + 2, ")")) {
+        throw std::invalid_argument("A list behind IN has no value.");
+      } else if (token.is("like") && place + 1 < end && tokens_[place + 1].kind == TokenKind::text &&
+                 !is(place + 2, "escape")) {
+        like(place);
+        place += 2;
+      } else {
+        const Run run = expressions_.run_at(place, end);
+        if (run.end == place) {
+          write(place++);
+        } else {
+          arithmetic(place, run);
+          place = run.end;
+        }
+      }
+    }
+    if (top) out_.write("LIMIT " + *top, true);
+  }
+
+  // select distinct top 5: what stands in front of the items.
+  std::size_t select_words(std::size_t place, std::size_t end, std::optional<std::string>& top) {
+    write(place++);
+    if (is(place, "distinct") || is(place, "all")) write(place++);
+    if (!is(place, "top")) return place;
+    const bool parentheses = is_symbol(place + 1, "(") && is_symbol(place + 3, ")");
+    const std::size_t number = parentheses ? place + 2 : place + 1;
+    if (number >= end || tokens_[number].kind != TokenKind::number) return place;
+    top = std::string(tokens_[number].text);
+    if (top->find_first_not_of("0123456789") != std::string::npos || is(number + 1, "percent")) {
+      throw std::invalid_argument("TOP is known with a whole number of rows alone.");
+    }
+    return parentheses ? number + 2 : number + 1;
+  }
+
+  [[noreturn]] static void refuse_compound() {
+    throw std::invalid_argument("TOP is known in a single SELECT alone.");
+  }
+
+  void like(std::size_t place) {
+    const TranslatedPattern pattern = translate_pattern(tokens_[place + 1].text);
+    // The engine's REGEXP is an operator without a meaning of its own: the driver gives it that of our patterns.
+    out_.write(pattern.has_lists ? "regexp" : tokens_[place].text, tokens_[place].blank_before);
+    out_.write(pattern.literal, true);
+  }
+
+  void arithmetic(std::size_t first, const Run& run) {
+    const bool exact = run.operators != 0 && run.kind == Arithmetic::money;
+    if (exact) {
+      out_.write(money_function, tokens_[first].blank_before);
+      out_.write("(", false);
+    }
+    operands(first, run.end, run.kind == Arithmetic::money);
+    if (exact) out_.write(")", false);
+  }
+
+  void operands(std::size_t place, std::size_t end, bool on_money) {
+    while (place < end) {
+      const Token& token = tokens_[place];
+      if (token.is_symbol("(")) {
+        place = parentheses(place);
+      } else if (token.is_symbol("/") && on_money) {
+        // Whole amounts are kept as whole numbers, whose quotient would be cut off.
+        out_.write("* 1.0 /", true);
+        ++place;
+      } else if (token.is_name()) {
+        const std::size_t path_end = expressions_.end_of_path(place, end);
+        place = path_end < end && is_symbol(path_end, "(") ? call(place, path_end) : write_path(place, end);
+      } else {
+        write(place++);
+      }
+    }
+  }
+
+  std::size_t parentheses(std::size_t opening) {
+    const std::size_t closing = expressions_.closing(opening);
+    write(opening);
+    range(opening + 1, closing);
+    write(closing);
+    return closing + 1;
+  }
+
+  std::size_t call(std::size_t name, std::size_t opening) {
+    const Token& function = tokens_[name];
+    const std::size_t closing = expressions_.closing(opening);
+    const auto replaced = [&](std::string_view with, std::size_t arguments) {
+      out_.write(with, function.blank_before);
+      out_.write("(", false);
+      range(arguments, closing);
+      write(closing);
+      return closing + 1;
+    };
+    if (function.is("convert") && (is(opening + 1, "int") || is(opening + 1, "integer")) &&
+        is_symbol(opening + 2, ",")) {
+      return replaced(whole_function, opening + 3);
+    }
+    if (function.is("clng")) return replaced(long_function, opening + 1);
+    if (function.is("sum") && !is(closing + 1, "over")) {
+      const std::size_t argument = is(opening + 1, "distinct") ? opening + 2 : opening + 1;
+      if (expressions_.kind_of(argument, closing) == Arithmetic::money) return replaced(sum_function, opening + 1);
+    }
+    while (name < opening) write(name++);
+    return parentheses(opening);
+  }
+
+  // Which columns of the result are amounts that the engine gives no type to.
+  void note_amounts(std::size_t first, std::size_t end) {
+    if (is(first, "distinct") || is(first, "all")) ++first;
+    if (is(first, "top")) first = is_symbol(first + 1, "(") ? first + 4 : first + 2;
+    const std::size_t list_end = expressions_.find(first, end, ends_of_list);
+    std::vector<bool> amounts;
+    bool star = false;
+    while (first < list_end) {
+      const std::size_t item_end = expressions_.end_of_item(first, list_end);
+      if (tokens_[item_end - 1].is_symbol("*") && item_end > first) {
+        if (!star) result_.amounts_from_first = amounts;
+        star = true;
+        amounts.clear();
+      } else {
+        const std::size_t expression_end = end_of_unnamed(first, item_end);
+        amounts.push_back(expressions_.kind_of(first, expression_end) == Arithmetic::money);
+      }
+      first = item_end + 1;
+    }
+    if (!star) result_.amounts_from_first = amounts;
+    result_.amounts_from_last.assign(amounts.rbegin(), amounts.rend());
+  }
+
+  // Behind an item's expression, in front of the name that it is given.
+  std::size_t end_of_unnamed(std::size_t first, std::size_t end) const {
+    const std::size_t named = expressions_.find(first, end, as);
+    if (named < end) return named;
+    return expressions_.run_at(first, end).end == end - 1 ? end - 1 : end;
+  }
+
+  bool has_star(std::size_t first, std::size_t end) const {
+    while (first < end) {
+      const std::size_t item_end = expressions_.end_of_item(first, end);
+      if (item_end > first && tokens_[item_end - 1].is_symbol("*")) return true;
+      first = item_end + 1;
+    }
+    return false;
+  }
+
+  std::size_t write_path(std::size_t place, std::size_t end) {
+    const std::size_t path_end = expressions_.end_of_path(place, end);
+    while (place < path_end) write(place++);
+    return path_end;
+  }
+
+  void write(std::size_t place) {
+    const Token& token = tokens_[place];
+    if (token.is_symbol(";")) throw std::invalid_argument("A text holds one statement.");
+    switch (token.kind) {
+      case TokenKind::parameter:
+        return out_.write("?" + std::to_string(token.parameter + 1), token.blank_before);
+      case TokenKind::date:
+        return out_.write("'" + std::string(token.text.substr(1, token.text.size() - 2)) + "'", token.blank_before);
+      default:
+        return out_.write(token.text, token.blank_before);
+    }
+  }
+
+  std::span<const Token> tokens_;
+  Catalogue& catalogue_;
+  Scope scope_;
+  Expressions expressions_;
+  Writer out_;
+  Rewritten result_;
+};
+
+}  // namespace
+
+Rewritten rewrite(std::string_view shape, Catalogue& catalogue, std::string_view statement) {
+  std::vector<Token> tokens = tokens_of(shape);
+  while (!tokens.empty() && tokens.back().is_symbol(";")) tokens.pop_back();
+  try {
+    return Rewriter(tokens, catalogue).run();
+  } catch (const std::invalid_argument& reason) {
+    refuse(reason.what(), statement);
+  }
+}
+
+}  // namespace brunvik::sqlite

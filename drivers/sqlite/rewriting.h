@@ -1,0 +1,34 @@
+// Writes the shape of a statement in SQLite's words, so that it means what the books mean by it.
+//
+// - TOP n, convert(int, x), clng(x), #dates#, `delete *`, LIKE with lists in brackets.
+// - What is assigned to a column is rounded as the column keeps it: a literal when it is bound, an expression by a
+//   function of the driver. Text loses its trailing blanks.
+// - Arithmetic and sums on money come out exact to four places, wherever they stand.
+// - Two minus signs are two minus signs (there are no comments): a negative value behind a minus takes nothing away.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "drivers/sqlite/catalogue.h"
+
+namespace brunvik::sqlite {
+
+// What a cut-out value becomes when it is bound.
+enum class Target : unsigned char { plain, text, money, single };
+
+struct Rewritten {
+  std::string text;
+  std::vector<Target> targets;  // one for each cut-out value; the text calls them ?1, ?2 and so on
+
+  // Of a SELECT: which of its columns are amounts, counted from the first one on and from the last one back. A * among
+  // them ends both.
+  std::vector<bool> amounts_from_first;
+  std::vector<bool> amounts_from_last;
+};
+
+// `statement` is the text that the shape was cut from, for the error statement_refused.
+Rewritten rewrite(std::string_view shape, Catalogue& catalogue, std::string_view statement);
+
+}  // namespace brunvik::sqlite

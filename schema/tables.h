@@ -1,0 +1,39 @@
+// The tables of the books, described once. Every engine's DDL is made from this description.
+//
+// Names are those of the statements and are compared without regard to case. A column may be null unless it
+// is the key. Rows of a bill have no key: a bill may hold two rows of one number.
+#pragma once
+
+#include <span>
+#include <string_view>
+
+namespace brunvik::schema {
+
+enum class Type {
+  Text,     // compared without regard to case and to trailing blanks
+  Date,     // the text in which the host gave the date
+  Byte,     // 8 bits
+  Integer,  // 16 bits
+  Long,     // 32 bits
+  Boolean,  // 1 and 0
+  Single,   // a quantity or a rate
+  Money,    // four places, exact
+};
+
+struct Column {
+  std::string_view name;
+  Type type;
+  std::string_view initial = {};  // what a row holds that was entered without the column; empty: null
+};
+
+struct Table {
+  std::string_view name;
+  std::span<const Column> columns;
+  std::string_view key = {};                       // the key column; empty: none
+  std::span<const std::string_view> indexes = {};  // the columns of one index each, separated by ", "
+};
+
+// All tables, master data first. The description lives as long as the process.
+std::span<const Table> tables();
+
+}  // namespace brunvik::schema

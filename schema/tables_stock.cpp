@@ -1,0 +1,166 @@
+// The stock documents, the assembly documents, and the stock itself.
+#include "schema/families.h"
+
+namespace brunvik::schema {
+
+namespace {
+
+using enum Type;
+
+// A column a line.
+// clang-format off
+
+constexpr Column stock_bill[] = {
+    {"Id", Text},
+    {"ManualId", Text},
+    {"Supplier", Text},
+    {"Receiver", Text},
+    {"RManager", Text},
+    {"SManager", Text},
+    {"Salesman", Text},
+    {"Creator", Text},
+    {"CreateTime", Date},
+    {"Type", Long},
+    {"InOutFlag", Long},
+    {"Status", Long},
+    {"Auditor", Text},
+    {"AuditTime", Date},
+    {"PaidAmount", Money, zero},
+    {"AdvanceAmount", Money, zero},
+    {"CloseAmount", Money, zero},
+    {"Amount", Money, zero},
+    {"BillCost", Money, zero},
+    {"Nowpaybillid", Text},
+    {"NowAdvanceBillID", Text},
+    {"InvoiceName", Text},
+    {"InvoiceType", Long},
+    {"TaxRate", Single},
+    {"DiscountType", Integer},
+    {"DiscountCard", Text},
+    {"DiscountRate", Single},
+    {"DeliveryMethod", Long},
+    {"ClosedTag", Long, zero},
+    {"CreateFlag", Boolean, zero},
+    {"ReferFlag", Long},
+    {"Referbillid", Text},
+    {"Summary", Text},
+    {"Remarks", Text},
+    {"FHBJ", Boolean},
+};
+// Whether an order is in use is asked by the bill that refers to it.
+constexpr std::string_view stock_bill_indexes[] = {by_type[0], "Referbillid"};
+
+constexpr Column stock_bill_items[] = {
+    {"BillId", Text},
+    {"RowNum", Integer},
+    {"GId", Text},
+    {"GBarcode", Text},
+    {"GName", Text},
+    {"Class", Text},
+    {"Model1", Text},
+    {"Model2", Text},
+    {"unit", Text},
+    {"qty", Single},
+    {"ActualQty", Single, zero},
+    {"price", Money, zero},
+    {"Amount", Money, zero},
+    {"Cost", Money, zero},
+    {"ShareCost", Money, zero},
+    {"Receiver", Text},
+    {"Supplier", Text},
+    {"Outfactorydate", Date},
+    {"Equipcode", Text},
+    {"Buydate", Date},
+    {"Accessory", Text},
+    {"remarks", Text},
+    {"GoodStutas", Long},
+    {"SendStutas", Integer},
+    {"StockRowNum", Long},
+};
+// A receipt looks for the issues of its goods that have no cost yet: by the goods alone it would read every
+// movement that they ever had.
+constexpr std::string_view stock_bill_items_indexes[] = {"GId, Cost", by_bill[0]};
+
+constexpr Column inventory[] = {
+    {"WID", Text},
+    {"GId", Text},
+    {"Model1", Text},
+    {"Model2", Text},
+    {"Status", Long},
+    {"Class", Text},
+    {"Unit", Text},
+    {"InQty", Single, zero},
+    {"OutQty", Single, zero},
+    {"CurrentQty", Single, zero},
+    {"Remarks", Text},
+};
+// The first for the movements, the second for the quantity of a goods in all warehouses.
+constexpr std::string_view inventory_indexes[] = {
+    "WID, GId, Model1, Model2, Status",
+    "GId, Class, Model1, Model2",
+};
+
+constexpr Column goods_bill[] = {
+    {"Id", Text},
+    {"ManualId", Text},
+    {"Manager", Text},
+    {"Salesman", Text},
+    {"Creator", Text},
+    {"CreateTime", Date},
+    {"Type", Long},
+    {"InOutFlag", Integer},
+    {"Status", Long},
+    {"Auditor", Text},
+    {"AuditTime", Date},
+    {"ReferFlag", Long},
+    {"ReferBillID", Text},
+    {"Summary", Text},
+    {"Remarks", Text},
+    {"Gid", Text},
+    {"Gbarcode", Text},
+    {"Gname", Text},
+    {"Class", Text},
+    {"Unit", Text},
+    {"Model1", Text},
+    {"Model2", Text},
+    {"Actualqty", Single, zero},
+    {"Price", Money, zero},
+    {"Amount", Money, zero},
+    {"WareHouseId", Text},
+    {"GoodStutas", Long},
+};
+
+constexpr Column goods_bill_items[] = {
+    {"BillId", Text},
+    {"RowNum", Integer},
+    {"GId", Text},
+    {"GBarcode", Text},
+    {"GName", Text},
+    {"Class", Text},
+    {"Model1", Text},
+    {"Model2", Text},
+    {"unit", Text},
+    {"ActualQty", Single, zero},
+    {"price", Money, zero},
+    {"Amount", Money, zero},
+    {"WareHouseId", Text},
+    {"EquipCode", Text},
+    {"GoodStutas", Long},
+    {"remarks", Text},
+};
+
+constexpr Table family[] = {
+    {"StockBill", stock_bill, "Id", stock_bill_indexes},
+    {"StockBillItems", stock_bill_items, "", stock_bill_items_indexes},
+    {"Inventory", inventory, "", inventory_indexes},
+    {"GoodsBill", goods_bill, "Id", by_type},
+    {"GoodsBillItems", goods_bill_items, "", by_bill},
+};
+
+// clang-format on
+
+}  // namespace
+
+std::span<const Table> stock_tables() { return family; }
+
+}  // namespace brunvik::schema
