@@ -31,15 +31,18 @@ std::uint32_t letters(const char* place) noexcept {
   return four | 0x20202020U;
 }
 
-enum class Keeps { nothing, the_next_literal, the_rest };
+enum class Keeps { nothing, the_next_literal, the_rest, the_list, the_list_ends };
 
 // Which literals a word keeps in the text.
 Keeps kept_by(const char* word, std::ptrdiff_t length) noexcept {
   switch (length) {
     case 3:
       return ado::same_name({word, 3}, "top") ? Keeps::the_next_literal : Keeps::nothing;
-    case 4:
-      return letters(word) == letters("like") ? Keeps::the_next_literal : Keeps::nothing;
+    case 4: {
+      const std::uint32_t four = letters(word);
+      if (four == letters("from")) return Keeps::the_list_ends;
+      return four == letters("like") ? Keeps::the_next_literal : Keeps::nothing;
+    }
     case 5: {
       const std::uint32_t four = letters(word);
       const char last = ado::lower(word[4]);
@@ -48,8 +51,8 @@ Keeps kept_by(const char* word, std::ptrdiff_t length) noexcept {
       return rest ? Keeps::the_rest : Keeps::nothing;
     }
     case 6:
-      return letters(word) == letters("esca") && ado::same_name({word + 4, 2}, "pe") ? Keeps::the_next_literal
-                                                                                  : Keeps::nothing;
+      if (ado::same_name({word, 6}, "select")) return Keeps::the_list;
+      return ado::same_name({word, 6}, "escape") ? Keeps::the_next_literal : Keeps::nothing;
     default:
       return Keeps::nothing;
   }
@@ -96,6 +99,7 @@ bool Cutter::cut(std::string_view statement) {
   char* out = shape_.data();
   bool keep_next = false;
   bool keep_rest = false;
+  bool keep_list = false;
   int depth = 0;
   int rest_depth = 0;
 
@@ -104,7 +108,7 @@ bool Cutter::cut(std::string_view statement) {
     out += until - copied;
   };
   const auto found = [&](LiteralKind kind, const char* first, std::string_view content, bool has_apostrophes) {
-    if (keep_next || keep_rest) {
+    if (keep_next || keep_rest || keep_list) {
       if (content.find('\0') != std::string_view::npos) refuse("A zero byte has no place in a pattern.", statement);
       keep_next = false;
       return;
@@ -130,11 +134,22 @@ bool Cutter::cut(std::string_view statement) {
         do {
           ++place;
         } while (place != end && is_word(*place));
-        const Keeps keeps = kept_by(first, place - first);
-        if (keeps == Keeps::the_next_literal) keep_next = true;
-        if (keeps == Keeps::the_rest && !keep_rest) {
-          keep_rest = true;
-          rest_depth = depth;
+        switch (kept_by(first, place - first)) {
+          case Keeps::nothing:
+            break;
+          case Keeps::the_next_literal:
+            keep_next = true;
+            break;
+          case Keeps::the_rest:
+            if (!keep_rest) rest_depth = depth;
+            keep_rest = true;
+            break;
+          case Keeps::the_list:
+            keep_list = true;
+            break;
+          case Keeps::the_list_ends:
+            keep_list = false;
+            break;
         }
         break;
       }

@@ -1,7 +1,8 @@
 // Cuts the values out of a statement's text in one pass, without touching the heap once it has warmed up.
 //
 // What is left is the statement's shape: its words, with a mark where each value stood. The literals behind LIKE and
-// TOP, and those behind ORDER, GROUP and LIMIT, mean more than a value there and stay in the shape.
+// TOP, those behind ORDER, GROUP and LIMIT, and those that are selected (they name their column) mean more than a value
+// and stay in the shape.
 #pragma once
 
 #include <cstdint>

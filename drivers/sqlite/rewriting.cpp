@@ -28,10 +28,12 @@ constexpr std::string_view as[] = {"as"};
 
 class Writer {
  public:
+  // Sets apart what would otherwise become another word, or the start of a comment.
   void write(std::string_view words, bool blank_before) {
     const bool touching = !text_.empty() && !words.empty() &&
                           ((is_word(text_.back()) && (is_word(words.front()) || words.front() == '?')) ||
-                           (text_.back() == '-' && words.front() == '-'));
+                           (text_.back() == '-' && words.front() == '-') ||
+                           (text_.back() == '/' && words.front() == '*'));
     if ((blank_before || touching) && !text_.empty()) text_ += ' ';
     text_ += words;
   }

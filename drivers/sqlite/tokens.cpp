@@ -98,8 +98,8 @@ std::string_view bare_name(const Token& token) {
 }
 
 bool is_keyword(const Token& token) {
-  static constexpr std::array<std::string_view, 46> words = {
-      "all",   "and",    "as",     "asc",    "between",   "by",      "case",  "delete", "desc",   "distinct", "else",
+  static constexpr std::array<std::string_view, 47> words = {
+      "all",   "and",    "as",     "asc",    "between",   "by",      "case",  "cross", "delete", "desc",   "distinct", "else",
       "end",   "escape", "except", "exists", "from",      "full",    "group", "having", "in",     "inner",    "insert",
       "intersect", "into", "is",   "join",   "left",      "like",    "limit", "not",    "null",   "offset",   "on",
       "or",    "order",  "outer",  "right",  "returning", "select",  "set",   "then",   "union",  "update",   "values",

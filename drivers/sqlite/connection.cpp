@@ -1,0 +1,29 @@
+#include "drivers/sqlite/connection.h"
+
+#include <utility>
+
+#include "brunvik/ado/errors.h"
+#include "drivers/sqlite/engine.h"
+
+namespace brunvik::sqlite {
+
+Connection::Connection(std::unique_ptr<Engine> engine) : engine_(std::move(engine)) {}
+Connection::~Connection() = default;
+
+ado::Recordset Connection::Execute(std::string_view CommandText) {
+  if (!engine_) {
+    throw ado::RuntimeError(ado::error::object_closed, std::string(ado::error_text(ado::error::object_closed)),
+                            std::string(CommandText));
+  }
+  return engine_->execute(CommandText);
+}
+
+void Connection::Close() noexcept { engine_.reset(); }
+
+std::size_t Connection::cached_statements() const noexcept { return engine_ ? engine_->cached_statements() : 0; }
+
+std::shared_ptr<Connection> open(const std::string& path, const Options& options) {
+  return std::make_shared<Connection>(std::make_unique<Engine>(path, options));
+}
+
+}  // namespace brunvik::sqlite

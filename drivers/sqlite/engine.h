@@ -1,0 +1,52 @@
+// An open SQLite database with all that the driver keeps for it.
+#pragma once
+
+#include <sqlite3.h>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "brunvik/ado/recordset.h"
+#include "drivers/sqlite/catalogue.h"
+#include "drivers/sqlite/connection.h"
+#include "drivers/sqlite/cutter.h"
+#include "drivers/sqlite/shape_cache.h"
+#include "drivers/sqlite/waiting.h"
+
+namespace brunvik::sqlite {
+
+class Engine {
+ public:
+  Engine(const std::string& path, const Options& options);
+  Engine(const Engine&) = delete;
+  Engine& operator=(const Engine&) = delete;
+
+  ado::Recordset execute(std::string_view text);
+  std::size_t cached_statements() const noexcept { return shapes_.size(); }
+
+ private:
+  struct Close {
+    void operator()(sqlite3* database) const noexcept { sqlite3_close_v2(database); }
+  };
+
+  // A statement that doesn't work on rows goes to the engine as it stands.
+  ado::Recordset execute_as_it_stands(std::string_view text);
+
+  Shape& shape(std::string_view text);
+  Shape prepare_shape(std::string_view text);
+
+  // Counts the changes of the tables, by whatever connection.
+  std::int64_t schema_version(std::string_view text);
+
+  Waiting waiting_;
+  std::unique_ptr<sqlite3, Close> database_;
+  Catalogue catalogue_;
+  std::int64_t catalogue_version_ = 0;
+  Cutter cutter_;
+  ShapeCache shapes_;
+  Statement schema_version_;
+};
+
+}  // namespace brunvik::sqlite

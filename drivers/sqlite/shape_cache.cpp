@@ -1,0 +1,56 @@
+#include "drivers/sqlite/shape_cache.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace brunvik::sqlite {
+
+namespace {
+
+// Fast on texts of some hundred bytes. The texts are those of the program, so nobody picks them to collide.
+std::uint64_t hash_of(std::string_view text) noexcept {
+  constexpr std::uint64_t factor = 0x9e3779b97f4a7c15U;
+  std::uint64_t first = text.size();
+  std::uint64_t second = factor;
+  const char* place = text.data();
+  std::size_t left = text.size();
+  for (; left >= 16; left -= 16, place += 16) {
+    std::uint64_t words[2];
+    std::memcpy(words, place, sizeof words);
+    first = (first ^ words[0]) * factor;
+    second = (second ^ words[1]) * factor;
+    first ^= first >> 32;
+    second ^= second >> 29;
+  }
+  std::uint64_t words[2] = {0, 0};
+  if (left != 0) std::memcpy(words, place, left);
+  first = (first ^ words[0]) * factor;
+  second = (second ^ words[1] ^ first >> 31) * factor;
+  return first ^ second ^ second >> 33;
+}
+
+}  // namespace
+
+Shape* ShapeCache::find(std::string_view text) {
+  const auto found = entries_.find(hash_of(text));
+  if (found == entries_.end() || found->second.text != text) return nullptr;
+  found->second.used = ++now_;
+  return &found->second.shape;
+}
+
+Shape& ShapeCache::add(std::string_view text, Shape shape) {
+  const std::uint64_t hash = hash_of(text);
+  // Another text of the same hash gives way.
+  entries_.erase(hash);
+  if (entries_.size() >= capacity_) drop_oldest();
+  return entries_.try_emplace(hash, Entry{std::string(text), std::move(shape), ++now_}).first->second.shape;
+}
+
+void ShapeCache::drop_oldest() {
+  const auto oldest = std::min_element(entries_.begin(), entries_.end(), [](const auto& left, const auto& right) {
+    return left.second.used < right.second.used;
+  });
+  if (oldest != entries_.end()) entries_.erase(oldest);
+}
+
+}  // namespace brunvik::sqlite
