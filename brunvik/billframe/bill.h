@@ -1,7 +1,7 @@
 // The frame that all documents share: the header fields that every bill has, and the verbs.
 //
-// The verbs are one piece of code over the workers of a family of documents. A document publishes those that belong
-// to it with a using-declaration, and lists them in its member table.
+// The verbs are one piece of code over the workers of a family of documents. A document lists those that belong to it
+// in its member table; one that differs in a verb's arguments declares its own, which hides the frame's.
 //
 // A verb gives 0 when it is done, also when there was nothing to do; -1 when a save finds ID empty; else the number of
 // the error that stopped it. It runs its statements one by one: what ran before a failure stays, and the properties
@@ -31,15 +31,9 @@ class Bill : public PublicObject {
 
   virtual const Kind& kind() const = 0;
 
- protected:
-  enum class Saving { bill, draft };
-
   // Saves the header, then the rows: all rows that are stored go, and those of the object come.
   Long Save() noexcept;
   Long SaveAsDraft() noexcept;
-
-  // Reads the header and the rows of ID. Without such a bill the header stays as it is and the rows are empty.
-  Long GetBill() noexcept;
 
   // Removes the rows, then the header, of ID; 0 also where there is no such bill.
   Long Delete() noexcept;
@@ -51,15 +45,23 @@ class Bill : public PublicObject {
   Long GetLastId(std::string& LastId) noexcept;
   Long LoadLast() noexcept;
 
-  // The neighbour of a number of this kind in the order of the text, the next or else the previous; empty at the end.
-  Long GetNearId(const std::string& CurBillID, std::string& NearBillID, bool NextPreviousId = false) noexcept;
-
   // Moves to the neighbour. At the end ID is empty, and all else still holds the bill that was read before.
   Long LoadNext() noexcept;
   Long LoadPreviou() noexcept;
 
   // Proposes the next free number of today. Nothing reserves it.
   Long GetNewId(std::string& BID) noexcept;
+
+ protected:
+  enum class Saving { bill, draft };
+
+  // Verbs that not every document publishes.
+
+  // Reads the header and the rows of ID. Without such a bill the header stays as it is and the rows are empty.
+  Long GetBill() noexcept;
+
+  // The neighbour of a number of this kind in the order of the text, the next or else the previous; empty at the end.
+  Long GetNearId(const std::string& CurBillID, std::string& NearBillID, bool NextPreviousId = false) noexcept;
 
   // The same for the kinds that keep several series of numbers, each with a prefix that the host gives.
   Long last_of_series(std::string& LastId, std::string_view series) noexcept;
@@ -92,7 +94,7 @@ class Bill : public PublicObject {
   void save(Saving saving);
 };
 
-// Calls `insert` with each row in its order. A bill holds 32,767 rows: more is error 6, and none is saved.
+// Calls `action` with each row in its order. A bill holds 32,767 rows: more is error 6, and none is saved.
 template <class Action>
 void for_each_row(RowCollection& rows, Action&& action) {
   if (rows.Count() > 32'767) ado::raise(ado::error::overflow);

@@ -17,15 +17,7 @@ class PurchaseReceipt : public TradeDocument {
 
   Long Inoutflag() const { return kind().side; }
 
-  using Bill::Delete;
-  using Bill::GetLastId;
   using Bill::GetNearId;
-  using Bill::GetNewId;
-  using Bill::LoadLast;
-  using Bill::LoadNext;
-  using Bill::LoadPreviou;
-  using Bill::Save;
-  using Bill::SaveAsDraft;
 
   // Reads the bill with all rows, or with the one row of this number. With bDHBJ each row carries what goods arrivals
   // set against it. The rows are left alone where BID is empty.

@@ -14,16 +14,7 @@ class PurchaseReturn : public TradeDocument {
   std::string CkrId, ThrId;
   Long Deliverymethod = 0;
 
-  using Bill::Delete;
-  using Bill::GetLastId;
   using Bill::GetNearId;
-  using Bill::GetNewId;
-  using Bill::LoadById;
-  using Bill::LoadLast;
-  using Bill::LoadNext;
-  using Bill::LoadPreviou;
-  using Bill::Save;
-  using Bill::SaveAsDraft;
 
   // The stock moves always. An opening balance only marks itself and audits its voucher.
   Long Audit() noexcept;

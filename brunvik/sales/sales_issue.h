@@ -26,11 +26,6 @@ class SalesIssue : public SalesDocument {
   Long Deliverymethod = 0;
   std::string Referbillid;
 
-  using Bill::Delete;
-  using Bill::LoadById;
-  using Bill::Save;
-  using Bill::SaveAsDraft;
-
   Long LoadLast(const std::string& sIDQZ = {}) noexcept;
   Long GetLastId(std::string& LastId, const std::string& sIDQZ = {}) noexcept;
   Long LoadNext(const std::string& sIDQZ = {}) noexcept;

@@ -15,16 +15,7 @@ class SalesReturn : public SalesDocument {
   Single Taxrate = 0;
   std::string Referbillid;
 
-  using Bill::Delete;
-  using Bill::GetLastId;
   using Bill::GetNearId;
-  using Bill::GetNewId;
-  using Bill::LoadById;
-  using Bill::LoadLast;
-  using Bill::LoadNext;
-  using Bill::LoadPreviou;
-  using Bill::Save;
-  using Bill::SaveAsDraft;
 
   // What Delete runs.
   Long DeleteSalesInBillAndItems() noexcept { return Delete(); }

@@ -13,16 +13,6 @@ class Advance : public Voucher {
   // The staff member who handled the money.
   Long Payer = 0;
 
-  using Bill::Delete;
-  using Bill::GetLastId;
-  using Bill::GetNewId;
-  using Bill::LoadById;
-  using Bill::LoadLast;
-  using Bill::LoadNext;
-  using Bill::LoadPreviou;
-  using Bill::Save;
-  using Bill::SaveAsDraft;
-
   const Members& members() const override;
 
  protected:

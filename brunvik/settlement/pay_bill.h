@@ -10,16 +10,6 @@ class clsPayBill final : public RPVoucher {
   // The staff member who paid the money.
   Long Payer = 0;
 
-  using Bill::Delete;
-  using Bill::GetLastId;
-  using Bill::GetNewId;
-  using Bill::LoadById;
-  using Bill::LoadLast;
-  using Bill::LoadNext;
-  using Bill::LoadPreviou;
-  using Bill::Save;
-  using Bill::SaveAsDraft;
-
   const Kind& kind() const override { return kind::clsPayBill; }
   const Members& members() const override;
 

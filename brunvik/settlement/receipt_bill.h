@@ -10,16 +10,6 @@ class clsReceiptBill final : public RPVoucher {
   // The staff member who took the money.
   Long Skr = 0;
 
-  using Bill::Delete;
-  using Bill::GetLastId;
-  using Bill::GetNewId;
-  using Bill::LoadById;
-  using Bill::LoadLast;
-  using Bill::LoadNext;
-  using Bill::LoadPreviou;
-  using Bill::Save;
-  using Bill::SaveAsDraft;
-
   const Kind& kind() const override { return kind::clsReceiptBill; }
   const Members& members() const override;
 

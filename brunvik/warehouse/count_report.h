@@ -16,13 +16,7 @@ class CountReport : public WarehouseDocument {
   // The responsible person.
   std::string Manager;
 
-  using Bill::GetLastId;
   using Bill::GetNearId;
-  using Bill::GetNewId;
-  using Bill::LoadById;
-  using Bill::LoadLast;
-  using Bill::LoadNext;
-  using Bill::LoadPreviou;
 
   // The verbs of the frame, their results in a dynamically typed value.
   Value Save() noexcept { return Bill::Save(); }

@@ -13,17 +13,8 @@ class OtherStockDocument : public WarehouseDocument {
   Money BillCost;
   Long Referflag = 0;
 
-  using Bill::Delete;
   using Bill::GetBill;
-  using Bill::GetLastId;
   using Bill::GetNearId;
-  using Bill::GetNewId;
-  using Bill::LoadById;
-  using Bill::LoadLast;
-  using Bill::LoadNext;
-  using Bill::LoadPreviou;
-  using Bill::Save;
-  using Bill::SaveAsDraft;
 
   // Costs each row at its price and posts it; then writes the bill's cost and reads the rows again.
   Long Audit() noexcept;

@@ -14,16 +14,7 @@ class clsTZBill final : public WarehouseDocument {
   Money Paidamount, BillCost;
   Long Referflag = 0;
 
-  using Bill::Delete;
   using Bill::GetBill;
-  using Bill::GetLastId;
-  using Bill::GetNewId;
-  using Bill::LoadById;
-  using Bill::LoadLast;
-  using Bill::LoadNext;
-  using Bill::LoadPreviou;
-  using Bill::Save;
-  using Bill::SaveAsDraft;
 
   // Write the status, and nothing else; with an empty ID nothing at all.
   Long Audit() noexcept;
