@@ -14,10 +14,32 @@ namespace {
 
 constexpr std::string_view columns_of = "select name, type from pragma_table_info(?)";
 
+constexpr std::string_view indexes_of = "select sql from sqlite_master where type='index' and lower(tbl_name)=lower(?)";
+
 std::string_view column_text(sqlite3_stmt* statement, int column) {
   const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
   return text ? std::string_view(text, static_cast<std::size_t>(sqlite3_column_bytes(statement, column)))
               : std::string_view();
+}
+
+std::string without_blanks_and_case(std::string_view text) {
+  std::string letters;
+  for (const char c : text) {
+    if (c != ' ' && c != '\n' && c != '\t') letters += ado::lower(c);
+  }
+  return letters;
+}
+
+template <class Visitor>
+void for_each_row(sqlite3* database, std::string_view query, std::string_view table, Visitor visit) {
+  sqlite3_stmt* prepared = nullptr;
+  int code = sqlite3_prepare_v2(database, query.data(), static_cast<int>(query.size()), &prepared, nullptr);
+  const Statement statement(prepared);
+  if (code == SQLITE_OK) {
+    sqlite3_bind_text(prepared, 1, table.data(), static_cast<int>(table.size()), SQLITE_STATIC);
+    while ((code = sqlite3_step(prepared)) == SQLITE_ROW) visit(prepared);
+  }
+  if (code != SQLITE_DONE) raise_failure(database, code, Stage::running, query);
 }
 
 }  // namespace
@@ -48,20 +70,22 @@ const TableDescription& Catalogue::table(std::string_view name) {
   if (known != tables_.end()) return known->second;
 
   TableDescription columns;
-  sqlite3_stmt* prepared = nullptr;
-  int code = sqlite3_prepare_v2(database_, columns_of.data(), static_cast<int>(columns_of.size()), &prepared, nullptr);
-  const Statement statement(prepared);
-  if (code == SQLITE_OK) {
-    sqlite3_bind_text(prepared, 1, name.data(), static_cast<int>(name.size()), SQLITE_STATIC);
-    while ((code = sqlite3_step(prepared)) == SQLITE_ROW) {
-      columns.push_back({std::string(column_text(prepared, 0)), type_of_declaration(column_text(prepared, 1))});
-    }
-  }
-  if (code != SQLITE_DONE) raise_failure(database_, code, Stage::preparing, columns_of);
+  for_each_row(database_, columns_of, name, [&columns](sqlite3_stmt* row) {
+    columns.push_back({std::string(column_text(row, 0)), type_of_declaration(column_text(row, 1))});
+  });
   static const TableDescription none;
   // Names that are no tables come from texts, and there is no end to them.
   if (columns.empty()) return none;
   return tables_.emplace(std::move(key), std::move(columns)).first->second;
+}
+
+bool Catalogue::has_number_index(std::string_view table, std::string_view column) {
+  const std::string wanted = without_blanks_and_case("(CAST(" + std::string(column) + " AS INTEGER))");
+  bool found = false;
+  for_each_row(database_, indexes_of, table, [&](sqlite3_stmt* row) {
+    found = found || without_blanks_and_case(column_text(row, 0)).ends_with(wanted);
+  });
+  return found;
 }
 
 }  // namespace brunvik::sqlite

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <string_view>
 
 namespace brunvik::sqlite {
 
@@ -35,7 +36,7 @@ inline constexpr std::array<Character, 256> characters = [] {
   list['('] = Character::opening_parenthesis;
   list[')'] = Character::closing_parenthesis;
   // These would be parameters that nobody binds, or names under a mark of a third dialect.
-  for (const unsigned char c : {'?', ':', '@', '$', '`'}) list[c] = Character::refused;
+  for (const char c : std::string_view("?:@$`")) list[static_cast<unsigned char>(c)] = Character::refused;
   return list;
 }();
 

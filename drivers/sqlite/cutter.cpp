@@ -109,7 +109,8 @@ bool Cutter::cut(std::string_view statement) {
   };
   const auto found = [&](LiteralKind kind, const char* first, std::string_view content, bool has_apostrophes) {
     if (keep_next || keep_rest || keep_list) {
-      if (content.find('\0') != std::string_view::npos) refuse("A zero byte has no place in a pattern.", statement);
+      if (content.find('\0') != std::string_view::npos)
+        refuse("A zero byte has no place in a literal that stays in the text.", statement);
       keep_next = false;
       return;
     }

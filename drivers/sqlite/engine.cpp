@@ -33,7 +33,9 @@ sqlite3* open_database(const std::string& path, bool create) {
 }
 
 // The end of a text behind its one statement: blanks and semicolons.
-bool is_empty(const char* text) { return std::string_view(text).find_first_not_of(" \t\r\n;") == std::string_view::npos; }
+bool is_empty(const char* text) {
+  return std::string_view(text).find_first_not_of(" \t\r\n;") == std::string_view::npos;
+}
 
 }  // namespace
 
@@ -80,6 +82,9 @@ ado::Recordset Engine::execute(std::string_view text) {
 
 Shape& Engine::shape(std::string_view text) {
   if (Shape* const known = shapes_.find(cutter_.shape())) return *known;
+  // A text of this length is no statement of the books, and would not come again.
+  constexpr std::size_t longest_kept = 32'768;
+  if (cutter_.shape().size() > longest_kept) return unkept_.emplace(prepare_shape(text));
   return shapes_.add(cutter_.shape(), prepare_shape(text));
 }
 
@@ -93,8 +98,8 @@ Shape Engine::prepare_shape(std::string_view text) {
     const char* rest = nullptr;
     // The first form of this call, whose statements fail with SQLITE_SCHEMA when the tables have changed. Those of the
     // later forms would prepare the same text again, which was rewritten for the columns that were.
-    const int code = sqlite3_prepare(database_.get(), rewritten.text.c_str(), static_cast<int>(rewritten.text.size() + 1),
-                                     &prepared, &rest);
+    const int code = sqlite3_prepare(database_.get(), rewritten.text.c_str(),
+                                     static_cast<int>(rewritten.text.size() + 1), &prepared, &rest);
     Statement statement(prepared);
     if (code != SQLITE_OK) raise_failure(database_.get(), code, Stage::preparing, text);
     if (!statement || !is_empty(rest)) refuse("A text holds one statement.", text);

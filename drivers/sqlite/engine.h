@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -46,6 +47,7 @@ class Engine {
   std::int64_t catalogue_version_ = 0;
   Cutter cutter_;
   ShapeCache shapes_;
+  std::optional<Shape> unkept_;
   Statement schema_version_;
 };
 

@@ -95,8 +95,8 @@ Arithmetic Expressions::kind_of_operand(std::size_t first, std::size_t end) cons
   while (is_sign(tokens_[first])) ++first;
   const Token& token = tokens_[first];
   if (token.is_literal()) {
-    const bool date = token.kind == TokenKind::date ||
-                      (token.kind == TokenKind::parameter && token.literal == LiteralKind::date);
+    const bool date =
+        token.kind == TokenKind::date || (token.kind == TokenKind::parameter && token.literal == LiteralKind::date);
     return date ? Arithmetic::other : Arithmetic::neutral;
   }
   if (token.is_symbol("(")) {

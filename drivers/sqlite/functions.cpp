@@ -95,12 +95,11 @@ void regexp(sqlite3_context* context, int, sqlite3_value** arguments) {
   sqlite3_result_int(context, matches(text_of(arguments[0]), text_of(arguments[1])) ? 1 : 0);
 }
 
-__extension__ using Wide = __int128;
-
+// The engine lends the space for it, cleared.
 struct Sum {
   bool any;
   bool too_large;
-  Wide count;
+  std::int64_t count;
 };
 
 void add_to_sum(sqlite3_context* context, int, sqlite3_value** arguments) {
@@ -108,21 +107,15 @@ void add_to_sum(sqlite3_context* context, int, sqlite3_value** arguments) {
   if (!sum) return sqlite3_result_error_nomem(context);
   if (sqlite3_value_type(arguments[0]) == SQLITE_NULL) return;
   sum->any = true;
-  if (const Amount amount = amount_of(sqlite3_value_double(arguments[0]))) {
-    sum->count += *amount;
-  } else {
-    sum->too_large = true;
-  }
+  const Amount amount = amount_of(sqlite3_value_double(arguments[0]));
+  if (!amount || __builtin_add_overflow(sum->count, *amount, &sum->count)) sum->too_large = true;
 }
 
 void give_sum(sqlite3_context* context) {
   const auto* const sum = static_cast<const Sum*>(sqlite3_aggregate_context(context, 0));
   if (!sum || !sum->any) return;
-  constexpr Wide largest = INT64_MAX;
-  if (sum->too_large || sum->count > largest || sum->count < -largest) {
-    return fail(context, "The sum is too large for money.", SQLITE_CONSTRAINT_FUNCTION);
-  }
-  give_amount(context, static_cast<std::int64_t>(sum->count));
+  if (sum->too_large) return fail(context, "The sum is too large for money.", SQLITE_CONSTRAINT_FUNCTION);
+  give_amount(context, sum->count);
 }
 
 std::size_t without_trailing_blanks(const char* text, std::size_t length) noexcept {
@@ -144,8 +137,8 @@ int compare(void*, int left_length, const void* left_text, int right_length, con
     if (std::memcmp(left + place, right + place, 8) != 0) break;
   }
   for (; place < common; ++place) {
-    const int difference = static_cast<unsigned char>(ado::lower(left[place])) -
-                           static_cast<unsigned char>(ado::lower(right[place]));
+    const int difference =
+        static_cast<unsigned char>(ado::lower(left[place])) - static_cast<unsigned char>(ado::lower(right[place]));
     if (difference != 0) return difference;
   }
   return static_cast<int>(left_size) - static_cast<int>(right_size);

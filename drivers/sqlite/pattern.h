@@ -1,5 +1,5 @@
-// LIKE patterns: % for any text, _ for one character, and in brackets one character of a list, as in [_], [a-f], [^0-9].
-// Letters of ASCII match without regard to case.
+// LIKE patterns: % for any text, _ for one character, and in brackets one character of a list, as in [_], [a-f],
+// [^0-9]. Letters of ASCII match without regard to case.
 #pragma once
 
 #include <string>

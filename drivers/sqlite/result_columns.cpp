@@ -45,20 +45,17 @@ ado::Value value_of(sqlite3_stmt* statement, int column, ColumnType type) {
 
 ResultColumns::ResultColumns(sqlite3_stmt* statement, const Rewritten& rewritten) {
   const auto count = static_cast<std::size_t>(sqlite3_column_count(statement));
-  const auto is_amount = [](const std::vector<bool>& amounts, std::size_t place) {
-    return place < amounts.size() && amounts[place];
-  };
   for (std::size_t place = 0; place < count; ++place) {
     const char* const name = sqlite3_column_name(statement, static_cast<int>(place));
     const char* const declared = sqlite3_column_decltype(statement, static_cast<int>(place));
-    names_.emplace_back(name ? name : "");
-    if (declared) {
-      types_.push_back(type_of_declaration(declared));
-    } else {
-      const bool amount = is_amount(rewritten.amounts_from_first, place) ||
-                          is_amount(rewritten.amounts_from_last, count - 1 - place);
-      types_.push_back(amount ? ColumnType::money : ColumnType::other);
-    }
+    const std::size_t from_last = count - 1 - place;
+    const SelectedColumn* selected = nullptr;
+    if (from_last < rewritten.columns_from_last.size()) selected = &rewritten.columns_from_last[from_last];
+    if (place < rewritten.columns_from_first.size()) selected = &rewritten.columns_from_first[place];
+    names_.emplace_back(selected && !selected->name.empty() ? selected->name.c_str() : name ? name : "");
+    types_.push_back(declared                          ? type_of_declaration(declared)
+                     : selected && selected->is_amount ? ColumnType::money
+                                                       : ColumnType::other);
   }
 }
 

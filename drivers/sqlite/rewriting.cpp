@@ -1,48 +1,25 @@
 #include "drivers/sqlite/rewriting.h"
 
 #include <algorithm>
-#include <array>
 #include <optional>
 #include <span>
 #include <stdexcept>
 
-#include "drivers/sqlite/characters.h"
 #include "drivers/sqlite/expression.h"
 #include "drivers/sqlite/failure.h"
 #include "drivers/sqlite/functions.h"
 #include "drivers/sqlite/pattern.h"
 #include "drivers/sqlite/scope.h"
+#include "drivers/sqlite/selection.h"
 #include "drivers/sqlite/tokens.h"
+#include "drivers/sqlite/writer.h"
 
 namespace brunvik::sqlite {
 
 namespace {
 
-using Words = std::span<const std::string_view>;
-
 constexpr std::string_view verbs[] = {"select", "insert", "replace", "update", "delete", "values"};
-constexpr std::string_view ends_of_list[] = {"from",  "where", "group",  "having",    "order",
-                                             "limit", "union", "except", "intersect", "returning"};
 constexpr std::string_view compounds[] = {"union", "except", "intersect"};
-constexpr std::string_view as[] = {"as"};
-
-class Writer {
- public:
-  // Sets apart what would otherwise become another word, or the start of a comment.
-  void write(std::string_view words, bool blank_before) {
-    const bool touching = !text_.empty() && !words.empty() &&
-                          ((is_word(text_.back()) && (is_word(words.front()) || words.front() == '?')) ||
-                           (text_.back() == '-' && words.front() == '-') ||
-                           (text_.back() == '/' && words.front() == '*'));
-    if ((blank_before || touching) && !text_.empty()) text_ += ' ';
-    text_ += words;
-  }
-
-  std::string take() { return std::move(text_); }
-
- private:
-  std::string text_;
-};
 
 class Rewriter {
  public:
@@ -71,8 +48,34 @@ class Rewriter {
   void statement(std::size_t verb, std::size_t end) {
     if (is(verb, "insert") || is(verb, "replace")) return insert(verb, end);
     if (is(verb, "update")) return update(verb, end);
-    if (is(verb, "select")) note_amounts(verb + 1, end);
+    if (is(verb, "select")) {
+      // What EXPLAIN tells has columns of its own.
+      if (!is(0, "explain")) describe_selection(tokens_, expressions_, verb + 1, end, result_);
+      if (highest_number(verb, end)) return;
+    }
     range(verb, end);
+  }
+
+  // select max(convert(int,ID)) as ls_bm from T, or max(clng(ID)), where an index holds these numbers: without it the
+  // question for the next number of a ledger reads the whole of it.
+  bool highest_number(std::size_t verb, std::size_t end) {
+    if (!is(verb + 1, "max") || !is_symbol(verb + 2, "(")) return false;
+    const bool is_convert =
+        is(verb + 3, "convert") && is_symbol(verb + 4, "(") && is(verb + 5, "int") && is_symbol(verb + 6, ",");
+    if (!is_convert && !(is(verb + 3, "clng") && is_symbol(verb + 4, "("))) return false;
+    const std::size_t column = is_convert ? verb + 7 : verb + 5;
+    std::size_t from = column + 3;
+    if (!is_symbol(column + 1, ")") || !is_symbol(column + 2, ")")) return false;
+    if (is(from, "as")) from += 2;
+    if (!is(from, "from") || from + 2 != end || !tokens_[column].is_name() || !tokens_[end - 1].is_name()) return false;
+    if (!catalogue_.has_number_index(bare_name(tokens_[end - 1]), bare_name(tokens_[column]))) return false;
+    const std::string number = "CAST(" + std::string(tokens_[column].text) + " AS INTEGER)";
+    write(verb);
+    out_.write("(SELECT " + number + " FROM " + std::string(tokens_[end - 1].text) + " ORDER BY " + number +
+                   " COLLATE BINARY DESC LIMIT 1)",
+               true);
+    for (std::size_t place = column + 3; place < from; ++place) write(place);
+    return true;
   }
 
   // insert into T(A,B) values(1,2),(3,4) or insert into T(A,B) select 1,2
@@ -90,7 +93,7 @@ class Rewriter {
       std::optional<std::string> top;
       const std::size_t items = select_words(place, end, top);
       const std::size_t items_end = expressions_.find(items, end, ends_of_list);
-      if (!has_star(items, items_end)) {
+      if (!selects_all(tokens_, expressions_, items, items_end)) {
         assign_items(items, items_end, types);
         place = items_end;
       } else {
@@ -187,10 +190,12 @@ class Rewriter {
       }
       if (token.is("null")) return range(first, end);
     }
-    const bool is_column = tokens_[first].is_name() && !is_keyword(tokens_[first]) &&
-                           expressions_.end_of_path(first, end) == end;
+    const bool is_column =
+        tokens_[first].is_name() && !is_keyword(tokens_[first]) && expressions_.end_of_path(first, end) == end;
     if (is_column && expressions_.type_of_path(first, end) == type) return range(first, end);
-    out_.write(type == ColumnType::text ? "rtrim(" : type == ColumnType::money ? money_function : single_function,
+    out_.write(type == ColumnType::text    ? "rtrim("
+               : type == ColumnType::money ? money_function
+                                           : single_function,
                tokens_[first].blank_before);
     if (type != ColumnType::text) out_.write("(", false);
     const Run run = expressions_.run_at(first, end);
@@ -248,9 +253,7 @@ class Rewriter {
     return parentheses ? number + 2 : number + 1;
   }
 
-  [[noreturn]] static void refuse_compound() {
-    throw std::invalid_argument("TOP is known in a single SELECT alone.");
-  }
+  [[noreturn]] static void refuse_compound() { throw std::invalid_argument("TOP is known in a single SELECT alone."); }
 
   void like(std::size_t place) {
     const TranslatedPattern pattern = translate_pattern(tokens_[place + 1].text);
@@ -318,45 +321,6 @@ class Rewriter {
     return parentheses(opening);
   }
 
-  // Which columns of the result are amounts that the engine gives no type to.
-  void note_amounts(std::size_t first, std::size_t end) {
-    if (is(first, "distinct") || is(first, "all")) ++first;
-    if (is(first, "top")) first = is_symbol(first + 1, "(") ? first + 4 : first + 2;
-    const std::size_t list_end = expressions_.find(first, end, ends_of_list);
-    std::vector<bool> amounts;
-    bool star = false;
-    while (first < list_end) {
-      const std::size_t item_end = expressions_.end_of_item(first, list_end);
-      if (tokens_[item_end - 1].is_symbol("*") && item_end > first) {
-        if (!star) result_.amounts_from_first = amounts;
-        star = true;
-        amounts.clear();
-      } else {
-        const std::size_t expression_end = end_of_unnamed(first, item_end);
-        amounts.push_back(expressions_.kind_of(first, expression_end) == Arithmetic::money);
-      }
-      first = item_end + 1;
-    }
-    if (!star) result_.amounts_from_first = amounts;
-    result_.amounts_from_last.assign(amounts.rbegin(), amounts.rend());
-  }
-
-  // Behind an item's expression, in front of the name that it is given.
-  std::size_t end_of_unnamed(std::size_t first, std::size_t end) const {
-    const std::size_t named = expressions_.find(first, end, as);
-    if (named < end) return named;
-    return expressions_.run_at(first, end).end == end - 1 ? end - 1 : end;
-  }
-
-  bool has_star(std::size_t first, std::size_t end) const {
-    while (first < end) {
-      const std::size_t item_end = expressions_.end_of_item(first, end);
-      if (item_end > first && tokens_[item_end - 1].is_symbol("*")) return true;
-      first = item_end + 1;
-    }
-    return false;
-  }
-
   std::size_t write_path(std::size_t place, std::size_t end) {
     const std::size_t path_end = expressions_.end_of_path(place, end);
     while (place < path_end) write(place++);
@@ -366,14 +330,10 @@ class Rewriter {
   void write(std::size_t place) {
     const Token& token = tokens_[place];
     if (token.is_symbol(";")) throw std::invalid_argument("A text holds one statement.");
-    switch (token.kind) {
-      case TokenKind::parameter:
-        return out_.write("?" + std::to_string(token.parameter + 1), token.blank_before);
-      case TokenKind::date:
-        return out_.write("'" + std::string(token.text.substr(1, token.text.size() - 2)) + "'", token.blank_before);
-      default:
-        return out_.write(token.text, token.blank_before);
-    }
+    std::string text(token.text);
+    if (token.kind == TokenKind::parameter) text.assign(1, '?').append(std::to_string(token.parameter + 1));
+    if (token.kind == TokenKind::date) text.front() = text.back() = '\'';
+    out_.write(text, token.blank_before);
   }
 
   std::span<const Token> tokens_;

@@ -45,6 +45,8 @@ double double_of_amount(std::int64_t ten_thousandths) noexcept {
 double single_of(double value) noexcept {
   if (std::fabs(value) > std::numeric_limits<float>::max()) return std::copysign(HUGE_VAL, value);
   const float single = static_cast<float>(value);
+  // From here on a single is a whole number, and is written with all of its digits.
+  if (std::fabs(single) >= 0x1p24F) return static_cast<double>(single);
   // A decimal of up to six digits that names the single is the shortest one that does.
   const double count = std::nearbyint(value * 10'000);
   if (std::fabs(count) < 1'000'000) {

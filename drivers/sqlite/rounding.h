@@ -1,8 +1,8 @@
 // How numbers are kept in columns.
 //
-// An amount of money is the double nearest to its decimal of four places; a single is the double nearest to the
-// shortest decimal that names the single. Both are canonical: equal values are equal doubles, and other tools see
-// plain figures.
+// An amount of money is the double nearest to its decimal of four places; a single is the double nearest to the decimal
+// in which it is written, which is the shortest one that names it. Both are canonical: equal values are equal doubles,
+// and other tools see plain figures.
 #pragma once
 
 #include <cstdint>
@@ -38,7 +38,7 @@ class Decimal {
  private:
   std::string_view text_;
   std::int64_t digits_ = 0;
-  int places_ = 0;     // behind the point
+  int places_ = 0;  // behind the point
   bool whole_ = true;
   bool short_ = true;  // digits_ and places_ say all of it
 };

@@ -66,9 +66,9 @@ std::vector<Token> tokens_of(std::string_view shape) {
       token.literal = static_cast<LiteralKind>(c - mark_of(LiteralKind::text));
       token.parameter = parameters++;
       ++place;
-    } else if (is_digit(c) || (c == '.' && place + 1 < shape.size() && is_digit(shape[place + 1]) &&
-                               !(place != 0 && (is_word(shape[place - 1]) || shape[place - 1] == ']' ||
-                                                shape[place - 1] == '"')))) {
+    } else if (is_digit(c) ||
+               (c == '.' && place + 1 < shape.size() && is_digit(shape[place + 1]) &&
+                !(place != 0 && (is_word(shape[place - 1]) || shape[place - 1] == ']' || shape[place - 1] == '"')))) {
       token.kind = TokenKind::number;
       place = end_of_number(shape, place);
     } else if (is_word(c)) {
@@ -99,11 +99,11 @@ std::string_view bare_name(const Token& token) {
 
 bool is_keyword(const Token& token) {
   static constexpr std::array<std::string_view, 47> words = {
-      "all",   "and",    "as",     "asc",    "between",   "by",      "case",  "cross", "delete", "desc",   "distinct", "else",
-      "end",   "escape", "except", "exists", "from",      "full",    "group", "having", "in",     "inner",    "insert",
-      "intersect", "into", "is",   "join",   "left",      "like",    "limit", "not",    "null",   "offset",   "on",
-      "or",    "order",  "outer",  "right",  "returning", "select",  "set",   "then",   "union",  "update",   "values",
-      "when",  "where"};
+      "all",      "and",   "as",     "asc",       "between", "by",     "case",  "cross", "delete",    "desc",
+      "distinct", "else",  "end",    "escape",    "except",  "exists", "from",  "full",  "group",     "having",
+      "in",       "inner", "insert", "intersect", "into",    "is",     "join",  "left",  "like",      "limit",
+      "not",      "null",  "offset", "on",        "or",      "order",  "outer", "right", "returning", "select",
+      "set",      "then",  "union",  "update",    "values",  "when",   "where"};
   return token.kind == TokenKind::word &&
          std::any_of(words.begin(), words.end(), [&](std::string_view word) { return token.is(word); });
 }
