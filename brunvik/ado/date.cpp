@@ -60,6 +60,7 @@ DateParts parts_of(Date date) {
     seconds -= seconds_in_day;
     day += 1;
   }
+  if (day > last_day) raise(error::overflow);
   const std::chrono::year_month_day civil{zero_day + std::chrono::days{static_cast<int>(day)}};
   const auto second_of_day = static_cast<unsigned>(seconds);
   return {static_cast<int>(civil.year()),

@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <string_view>
 
 #include "brunvik/ado/errors.h"
 
@@ -11,9 +12,38 @@ namespace brunvik::ado {
 
 namespace {
 
+// From here on, plain notation would spell out digits that don't belong to the number: every whole number below is
+// exact, and above only some are.
+template <class Number>
+constexpr Number first_inexact = static_cast<Number>(std::uint64_t{1} << std::numeric_limits<Number>::digits);
+
+// The shortest digits with as many zeros as the exponent asks for.
+template <class Number>
+void append_large(std::string& text, Number value) {
+  std::array<char, 40> buffer;
+  const char* end =
+      std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::scientific).ptr;
+  const std::string_view scientific(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
+  const auto exponent_mark = scientific.find('e');
+  std::size_t exponent = 0;
+  std::from_chars(scientific.data() + exponent_mark + 2, end, exponent);
+  std::size_t places = 0;
+  bool behind_point = false;
+  for (const char c : scientific.substr(0, exponent_mark)) {
+    if (c == '.') {
+      behind_point = true;
+    } else {
+      text += c;
+      if (behind_point) ++places;
+    }
+  }
+  text.append(exponent - places, '0');
+}
+
 template <class Number>
 void append_floating(std::string& text, Number value) {
-  // The longest plain text: 309 digits in front of the point, or some 340 behind it.
+  if (std::isfinite(value) && std::fabs(value) >= first_inexact<Number>) return append_large(text, value);
+  // The longest plain text has some 340 digits behind the point.
   std::array<char, 400> buffer;
   if (value == 0) value = 0;  // A negative zero is written as zero.
   const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed);

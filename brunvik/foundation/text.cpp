@@ -17,9 +17,12 @@ constexpr char upper_ascii(char c) { return c >= 'a' && c <= 'z' ? static_cast<c
 
 constexpr bool continues_character(char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U; }
 
+// The simple mapping leaves ß as it is; the library would write ẞ.
+constexpr utf8proc_int32_t sharp_s = 0xDF;
+
 void append_upper_case(std::string& result, utf8proc_int32_t character) {
   std::array<utf8proc_uint8_t, 4> bytes{};
-  const auto length = utf8proc_encode_char(utf8proc_toupper(character), bytes.data());
+  const auto length = utf8proc_encode_char(character == sharp_s ? sharp_s : utf8proc_toupper(character), bytes.data());
   result.append(bytes.begin(), bytes.begin() + length);
 }
 

@@ -1,0 +1,23 @@
+// The benchmarks. Each compares contenders that do the same work in turns within one run, so that the noise of the
+// machine falls on all of them, and gives the ratio of their times as counters.
+#pragma once
+
+namespace brunvik::bench {
+
+// The resident size of a process that loads, walks and saves ten thousand bills. To be run first, while the process
+// is small.
+void register_resident_size();
+
+// GetSqlVal against the same text appended by hand.
+void register_values();
+
+// A verb against a replay of the statements that it sends.
+void register_library_share();
+
+// The driver against plain SQLite, given the same statements as text and as prepared statements.
+void register_driver();
+
+// The same verbs at a thousand and at a million bills.
+void register_growth();
+
+}  // namespace brunvik::bench

@@ -1,0 +1,41 @@
+// A connection that keeps the text of every statement that goes through it.
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "bench/life.h"
+#include "brunvik/ado/connection.h"
+
+namespace brunvik::bench {
+
+class Recording final : public ado::Connection {
+ public:
+  explicit Recording(ado::ConnectionReference connection) : connection_(std::move(connection)) {}
+
+  ado::Recordset Execute(std::string_view CommandText) override {
+    texts_.emplace_back(CommandText);
+    return connection_->Execute(CommandText);
+  }
+  Long State() const noexcept override { return connection_->State(); }
+
+  std::vector<std::string> take() { return std::exchange(texts_, {}); }
+
+ private:
+  ado::ConnectionReference connection_;
+  std::vector<std::string> texts_;
+};
+
+// The statements of one step of a life, in the order in which they were sent.
+struct RecordedStep {
+  std::string verb;
+  std::vector<std::string> texts;
+};
+
+using RecordedLife = std::vector<RecordedStep>;
+
+// Lives the life of a document once on the connection; the session is the connection's afterwards.
+RecordedLife record(const ado::ConnectionReference& connection, MakeLife make, unsigned seed);
+
+}  // namespace brunvik::bench

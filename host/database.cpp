@@ -1,0 +1,78 @@
+#include "host/database.h"
+
+#include <filesystem>
+
+#include "brunvik/ado/errors.h"
+#include "drivers/sqlite/connection.h"
+#include "schema/ddl.h"
+
+namespace brunvik::host {
+
+namespace {
+
+constexpr std::string_view scheme = "sqlite:";
+
+std::string path_in(const std::string& address) {
+  if (!address.starts_with(scheme) || address.size() == scheme.size()) {
+    throw UnknownAddress("'" + address + "' is no database: sqlite:PATH or sqlite::memory: is one");
+  }
+  return address.substr(scheme.size());
+}
+
+ado::ConnectionReference opened(const std::string& path, bool create) {
+  try {
+    return sqlite::open(path, {.create = create});
+  } catch (const ado::RuntimeError& failure) {
+    throw ado::RuntimeError(failure.number(), "the database '" + path + "' can't be opened: " + failure.description());
+  }
+}
+
+bool is_empty(ado::Connection& database) {
+  return database.Execute("select count(*) as entries from sqlite_master").value("entries").as_long() == 0;
+}
+
+// Whether the tables were laid, which they are in an empty database. All of them or none: one whose laying was cut off
+// must not look as if it were in use.
+bool lay_tables(ado::Connection& database) {
+  database.Execute("begin immediate");
+  try {
+    const bool empty = is_empty(database);
+    if (empty) {
+      for (const std::string& statement : schema::statements(schema::Engine::sqlite)) database.Execute(statement);
+    }
+    database.Execute("commit");
+    return empty;
+  } catch (...) {
+    database.Execute("rollback");
+    throw;
+  }
+}
+
+}  // namespace
+
+std::string address_of_file(const std::string& path) { return std::string(scheme) + path; }
+
+std::string file_at(const std::string& address) { return address == in_memory ? std::string() : path_in(address); }
+
+ado::ConnectionReference open_database(const std::string& address, bool create) {
+  const std::string path = path_in(address);
+  std::error_code ignored;
+  if (address != in_memory && !create && !std::filesystem::exists(path, ignored)) {
+    throw ado::RuntimeError(ado::error::provider_failed,
+                            "there is no database '" + path + "' (--create makes one with its tables)");
+  }
+  auto database = opened(path, create);
+  if (create || address == in_memory) lay_tables(*database);
+  return database;
+}
+
+ado::ConnectionReference open_fresh_database(const std::string& address) {
+  auto database = opened(path_in(address), true);
+  if (!lay_tables(*database)) {
+    throw ado::RuntimeError(ado::error::provider_failed,
+                            "'" + file_at(address) + "' is in use already, and stays as it is");
+  }
+  return database;
+}
+
+}  // namespace brunvik::host

@@ -1,0 +1,32 @@
+// Databases by their address: "sqlite:PATH", or "sqlite::memory:" for one that lives as long as the process.
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+#include "brunvik/ado/connection.h"
+
+namespace brunvik::host {
+
+inline constexpr std::string_view in_memory = "sqlite::memory:";
+
+// The address names no database that the command knows.
+class UnknownAddress : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+// The path of the file at an address; empty where the database lives in memory.
+std::string file_at(const std::string& address);
+std::string address_of_file(const std::string& path);
+
+// Opens the database. `create` makes the file where there is none, and lays the tables in an empty database; the
+// memory is always new and gets them in any case. Throws an UnknownAddress, or a RuntimeError that says what is in the
+// way.
+ado::ConnectionReference open_database(const std::string& address, bool create);
+
+// Makes the file where there is none and lays the tables. Throws where anything stands in the database already.
+ado::ConnectionReference open_fresh_database(const std::string& address);
+
+}  // namespace brunvik::host

@@ -1,0 +1,66 @@
+// Calls of verbs and procedures, and what happened in them.
+#include <nlohmann/json.hpp>
+
+#include "brunvik/ado/errors.h"
+#include "brunvik/automation/automation.h"
+#include "host/interpreter.h"
+#include "host/values.h"
+
+namespace brunvik::host {
+
+namespace {
+
+const Json& arguments_in(const Json& line) {
+  static const Json no_arguments = Json::array();
+  return member_or(line, "args", no_arguments);
+}
+
+}  // namespace
+
+void Interpreter::call(const Json& line, Json& answer) {
+  PublicObject& object = object_of(line);
+  const std::string& verb = text_member(line, "verb");
+  const Member& member =
+      named(verb, [&](std::string_view name) -> const Member& { return object.members().named(name); });
+  if (member.kind() != MemberKind::verb) refuse(ado::error::no_such_member, verb);
+  const Json& given = arguments_in(line);
+  std::vector<Value> arguments = to_arguments(given, member.parameters());
+  ++calls_;
+  const Value result = automation::call(object, verb, arguments);
+  // The verb was a start of the session.
+  if (&way_of(object) == &sessions_) put_properties(*session_, properties_of(object));
+  answer["result"] = member.type() == Type::Nothing ? Json(nullptr) : to_json(result);
+  answer["args"] = left_arguments(given, member.parameters(), arguments);
+  add_what_happened(answer);
+}
+
+void Interpreter::call_procedure(const Json& line, Json& answer) {
+  const std::string& name = text_member(line, "name");
+  const Procedure& procedure =
+      named(name, [](std::string_view wanted) -> const Procedure& { return automation::procedure_named(wanted); });
+  const Json& given = arguments_in(line);
+  std::vector<Value> arguments = to_arguments(given, procedure.parameters);
+  ++calls_;
+  const Value result = automation::call_procedure(name, arguments);
+  answer["result"] = procedure.result == Type::Nothing ? Json(nullptr) : to_json(result);
+  answer["args"] = left_arguments(given, procedure.parameters, arguments);
+  add_what_happened(answer);
+}
+
+void Interpreter::add_what_happened(Json& answer) {
+  if (!notices_.empty()) {
+    Json notices = Json::array();
+    for (const ado::Notice& notice : notices_) notices.push_back({{"title", notice.title}, {"text", notice.text}});
+    answer["notices"] = std::move(notices);
+  }
+  if (!tracing_) return;
+  Json statements = Json::array();
+  for (const TracedStatement& statement : trace_->take()) {
+    Json entry{name_of(statement.road), statement.text};
+    if (statement.failure) entry.push_back(*statement.failure);
+    statements.push_back(std::move(entry));
+  }
+  answer["trace"] = std::move(statements);
+}
+
+}  // namespace brunvik::host

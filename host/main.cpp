@@ -1,0 +1,152 @@
+// The brunvik command: a host without screens.
+#include <CLI/CLI.hpp>
+#include <fstream>
+#include <iostream>
+
+#include "brunvik/ado/clock.h"
+#include "brunvik/ado/errors.h"
+#include "host/database.h"
+#include "host/demo.h"
+#include "host/describe.h"
+#include "host/interpreter.h"
+#include "host/progress.h"
+#include "host/run.h"
+#include "schema/ddl.h"
+
+namespace {
+
+using namespace brunvik;
+
+enum Status { done = 0, no_database = 1, bad_usage = 2 };
+
+struct Options {
+  // The word by which the command was called.
+  std::string command;
+  std::string database;
+  bool create = false;
+  std::string dialect = "sqlserver";
+  host::Settings settings;
+  std::string now;
+  std::vector<std::string> files;
+  std::string class_name;
+  bool json = false;
+  std::string engine = "sqlite";
+};
+
+void add_session_options(CLI::App& command, Options& options) {
+  command.add_option("--db", options.database, "The database: sqlite:PATH or sqlite::memory:")->type_name("URL");
+  command.add_option("--dialect", options.dialect, "The dialect of the statements; sqlserver unless given")
+      ->type_name("NAME")
+      ->check(CLI::IsMember(std::vector<std::string>{"sqlserver", "access"}));
+  command.add_option("--now", options.now, "Fixes the clock, as in \"2024-03-05 10:00:00\"")->type_name("TIME");
+  command.add_flag("--trace", options.settings.trace, "Shows the statements that each verb sends");
+}
+
+void fix_clock(const std::string& now) {
+  if (now.empty()) return;
+  const Date date = ado::parse_date(now);
+  ado::set_clock([date] { return date; });
+}
+
+int run_command(const Options& options) {
+  host::Interpreter interpreter(
+      host::open_database(options.database.empty() ? std::string(host::in_memory) : options.database, options.create),
+      options.settings);
+  host::Progress progress;
+  if (options.files.empty()) host::run(interpreter, std::cin, std::cout, progress);
+  for (const std::string& file : options.files) {
+    std::ifstream lines(file, std::ios::binary);
+    if (!lines) {
+      std::cerr << "brunvik: '" << file << "' can't be read\n";
+      return bad_usage;
+    }
+    host::run(interpreter, lines, std::cout, progress);
+  }
+  return done;
+}
+
+int demo_command(const Options& options) {
+  host::demo({options.database, options.settings, options.command}, std::cout);
+  return done;
+}
+
+int describe_command(const Options& options) {
+  if (options.class_name.empty()) {
+    std::cout << (options.json ? host::describe_classes_json() : host::describe_classes());
+    return done;
+  }
+  try {
+    std::cout << (options.json ? host::describe_class_json(options.class_name)
+                               : host::describe_class(options.class_name));
+    return done;
+  } catch (const ado::RuntimeError&) {
+    std::cerr << "brunvik: there is no class " << options.class_name << "; brunvik describe lists them\n";
+    return bad_usage;
+  }
+}
+
+int schema_command() {
+  for (const std::string& statement : schema::statements(schema::Engine::sqlite)) std::cout << statement << ";\n";
+  return done;
+}
+
+// What goes wrong before the first line is done, in the order in which it is found out.
+int carried_out(int (*command)(const Options&), const Options& options) {
+  try {
+    fix_clock(options.now);
+  } catch (const ado::RuntimeError&) {
+    std::cerr << "brunvik: --now takes a time like \"2024-03-05 10:00:00\"\n";
+    return bad_usage;
+  }
+  try {
+    return command(options);
+  } catch (const host::UnknownAddress& failure) {
+    std::cerr << "brunvik: " << failure.what() << '\n';
+    return bad_usage;
+  } catch (const host::UnreadableLine& failure) {
+    std::cerr << "brunvik: " << failure.what() << '\n';
+    return bad_usage;
+  } catch (const std::exception& failure) {
+    std::cerr << "brunvik: " << failure.what() << '\n';
+    return no_database;
+  }
+}
+
+}  // namespace
+
+int main(int count, char** words) {
+  std::ios::sync_with_stdio(false);
+  Options options;
+  options.command = words[0];
+  CLI::App app("Stock, accounts and costs: the books of a trading company, kept in a database.", "brunvik");
+  app.set_version_flag("--version", "brunvik " BRUNVIK_VERSION);
+  app.require_subcommand(1);
+
+  CLI::App& demo = *app.add_subcommand("demo", "Buys and sells in a fresh database, and shows what changes");
+  add_session_options(demo, options);
+
+  CLI::App& run = *app.add_subcommand("run", "Carries out JSON Lines, one answer a line");
+  add_session_options(run, options);
+  run.add_flag("--create", options.create, "Lays the tables when the database is empty");
+  run.add_option("--operator", options.settings.operator_id, "Who is logged in")->type_name("ID");
+  run.add_option("FILE", options.files, "The lines; standard input where none is named")->check(CLI::ExistingFile);
+
+  CLI::App& describe = *app.add_subcommand("describe", "Lists the public classes, or the members of one");
+  describe.add_option("CLASS", options.class_name);
+  describe.add_flag("--json", options.json, "As JSON");
+
+  CLI::App& schema = *app.add_subcommand("schema", "Prints the statements that lay the tables");
+  schema.add_option("--engine", options.engine, "The database engine: sqlite")
+      ->check(CLI::IsMember(std::vector<std::string>{"sqlite"}));
+
+  try {
+    app.parse(count, words);
+  } catch (const CLI::ParseError& failure) {
+    return app.exit(failure) == 0 ? done : bad_usage;
+  }
+  if (options.dialect == "access") options.settings.dialect = "[Microsoft Access]";
+  if (describe.parsed()) return describe_command(options);
+  if (schema.parsed()) return schema_command();
+  if (demo.parsed()) return carried_out(demo_command, options);
+  return carried_out(run_command, options);
+}

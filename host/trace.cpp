@@ -1,0 +1,35 @@
+#include "host/trace.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "brunvik/ado/errors.h"
+
+namespace brunvik::host {
+
+std::string_view name_of(Road road) noexcept { return road == Road::bill ? "bill" : "session"; }
+
+void Trace::hand_over(Road road, std::string_view statement) {
+  if (recording_) statements_.push_back({road, std::string(statement), {}});
+  std::optional<Rehearsal> due;
+  std::erase_if(rehearsals_, [&](Rehearsal& rehearsal) {
+    if (rehearsal.of && *rehearsal.of != road) return false;
+    if (--rehearsal.at > 0) return false;
+    if (!due) due = rehearsal;
+    return true;
+  });
+  if (!due) return;
+  if (recording_) statements_.back().failure = due->number;
+  throw ado::RuntimeError(due->number, due->text, std::string(statement));
+}
+
+TracedConnection::TracedConnection(ado::ConnectionReference driver, Road road, std::shared_ptr<Trace> trace)
+    : driver_(std::move(driver)), road_(road), trace_(std::move(trace)) {}
+
+ado::Recordset TracedConnection::Execute(std::string_view CommandText) {
+  trace_->hand_over(road_, CommandText);
+  if (closed_) ado::raise(ado::error::object_closed);
+  return driver_->Execute(CommandText);
+}
+
+}  // namespace brunvik::host

@@ -1,0 +1,71 @@
+// The two roads of statements to one database, watched: the road of the bills and the road of the session. Each can
+// be closed, and a failure can be rehearsed on either, so that a host can be tried against what rarely happens.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "brunvik/ado/connection.h"
+
+namespace brunvik::host {
+
+enum class Road { bill, session };
+
+std::string_view name_of(Road road) noexcept;
+
+struct TracedStatement {
+  Road road;
+  // Exactly as it was handed to the connection.
+  std::string text;
+  // The number of a rehearsed failure.
+  std::optional<Long> failure;
+};
+
+// The statement that many statements from now fails instead of being sent.
+struct Rehearsal {
+  Long at = 1;
+  // Only statements of this road count; of either where it is left out.
+  std::optional<Road> of;
+  Long number = 0;
+  std::string text;
+};
+
+class Trace {
+ public:
+  explicit Trace(bool recording) : recording_(recording) {}
+
+  void rehearse(Rehearsal rehearsal) { rehearsals_.push_back(std::move(rehearsal)); }
+
+  // A statement is handed over. Throws the rehearsed failure where one is due.
+  void hand_over(Road road, std::string_view statement);
+
+  // What was recorded since it was taken last.
+  std::vector<TracedStatement> take() { return std::exchange(statements_, {}); }
+
+ private:
+  bool recording_;
+  std::vector<TracedStatement> statements_;
+  std::vector<Rehearsal> rehearsals_;
+};
+
+// A connection of the driver as one road sees it.
+class TracedConnection final : public ado::Connection {
+ public:
+  TracedConnection(ado::ConnectionReference driver, Road road, std::shared_ptr<Trace> trace);
+
+  ado::Recordset Execute(std::string_view CommandText) override;
+  Long State() const noexcept override { return closed_ ? 0 : driver_->State(); }
+
+  void set_closed(bool closed) noexcept { closed_ = closed; }
+
+ private:
+  ado::ConnectionReference driver_;
+  Road road_;
+  std::shared_ptr<Trace> trace_;
+  bool closed_ = false;
+};
+
+}  // namespace brunvik::host

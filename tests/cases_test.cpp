@@ -1,0 +1,222 @@
+// The documents' behaviour as data: each file below cases/ is a story told in the lines of `brunvik run`, with what has
+// to come out.
+//
+// A case begins with what a bookkeeper does and what must come of it, in lines that start with `#`; more of them may
+// stand further down. `@dialect sqlserver`, `access` or `both` (the default) says in which dialect it is told,
+// `@include goods.setup` sends the lines of a file of cases/setup first. Then
+//
+//     > {"do":"call","on":"b","verb":"Save"}
+//     < {"result":0,
+//     <  "trace":[["bill","select * from StockBill where Id='QTR24030500001'"]]}
+//
+// sends a line and says what the answer must hold: every member that is named, and of members that are objects again
+// what is named of them. Lists are compared whole. A text that ends in "…" is the beginning of the expected one. A line
+// without an answer must not be refused, and a call or procedure whose answer names no notices must show none.
+//
+// The clock stands at 2024-03-05 10:00:00, and answers hold the statements that were sent.
+#include <gtest/gtest.h>
+#include <stdlib.h>
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <stdexcept>
+
+#include "drivers/sqlite/connection.h"
+#include "host/interpreter.h"
+#include "schema/ddl.h"
+#include "tests/support/apartment.h"
+
+namespace {
+
+using namespace brunvik;
+using nlohmann::json;
+namespace files = std::filesystem;
+
+const files::path folder = BRUNVIK_CASES;
+
+// Where a database may put its files for as long as a case takes.
+class Workplace {
+ public:
+  Workplace() {
+    std::string name = (files::temp_directory_path() / "brunvik-case-XXXXXX").string();
+    if (!mkdtemp(name.data())) throw std::runtime_error("no temporary folder");
+    path = name;
+  }
+  ~Workplace() {
+    std::error_code ignored;
+    files::remove_all(path, ignored);
+  }
+  Workplace(const Workplace&) = delete;
+  Workplace& operator=(const Workplace&) = delete;
+
+  files::path path;
+};
+
+struct Engine {
+  std::string name;
+  schema::Engine tables;
+  std::function<ado::ConnectionReference(const files::path& workplace)> open;
+};
+
+// The engines that the cases are run on.
+const std::vector<Engine>& engines() {
+  static const std::vector<Engine> list{
+      {"sqlite_memory", schema::Engine::sqlite, [](const files::path&) { return sqlite::open(":memory:"); }},
+      {"sqlite_file", schema::Engine::sqlite,
+       [](const files::path& workplace) {
+         return sqlite::open((workplace / "books.db").string(),
+                             {.synchronous = sqlite::Synchronous::normal, .create = true});
+       }},
+  };
+  return list;
+}
+
+struct Dialect {
+  std::string name;
+  std::string session_name;
+};
+
+const std::array<Dialect, 2> dialects{{{"sqlserver", "[Microsoft SQL Server]"}, {"access", "[Microsoft Access]"}}};
+
+struct Step {
+  std::size_t line = 0;
+  std::string sent;
+  std::string expected = {};  // empty: anything but a refusal
+};
+
+struct Case {
+  std::string dialect = "both";
+  std::vector<Step> steps = {};
+};
+
+std::string trimmed(const std::string& text) {
+  const auto first = text.find_first_not_of(" \r");
+  return first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(" \r") - first + 1);
+}
+
+// Throws where a line of the file is none of a case.
+Case read_case(const files::path& path) {
+  Case read;
+  std::ifstream file(path);
+  if (!file) throw std::runtime_error(path.string() + " can't be read");
+  std::string line;
+  for (std::size_t number = 1; std::getline(file, line); ++number) {
+    const std::string content = line.empty() ? "" : trimmed(line.substr(1));
+    const char kind = line.empty() ? '#' : line.front();
+    if (kind == '>') {
+      read.steps.push_back({number, content});
+    } else if (kind == '<' && !read.steps.empty()) {
+      read.steps.back().expected += content;
+    } else if (kind == '@' && content.starts_with("dialect ")) {
+      read.dialect = trimmed(content.substr(8));
+    } else if (kind == '@' && content.starts_with("include ")) {
+      const Case setup = read_case(folder / "setup" / trimmed(content.substr(8)));
+      read.steps.insert(read.steps.end(), setup.steps.begin(), setup.steps.end());
+    } else if (kind != '#') {
+      throw std::runtime_error(path.string() + ":" + std::to_string(number) + ": '" + line + "' is no line of a case");
+    }
+  }
+  return read;
+}
+
+bool same_text(const std::string& expected, const std::string& actual) {
+  static const std::string anything = "…";
+  if (!expected.ends_with(anything)) return expected == actual;
+  return actual.starts_with(expected.substr(0, expected.size() - anything.size()));
+}
+
+// Where the answer differs first from what is expected, and how; nothing where it doesn't.
+std::optional<std::string> difference(const json& expected, const json& actual, const std::string& place = "") {
+  const auto differs = [&](const std::string& what) {
+    return what + "\n  expected: " + expected.dump() + "\n  actual:   " + actual.dump();
+  };
+  if (expected.is_object() && actual.is_object()) {
+    for (const auto& [name, value] : expected.items()) {
+      const std::string inner = place + "/" + name;
+      if (!actual.contains(name)) return inner + " is missing\n  expected: " + value.dump();
+      if (auto found = difference(value, actual[name], inner)) return found;
+    }
+    return std::nullopt;
+  }
+  if (expected.is_array() && actual.is_array()) {
+    for (std::size_t at = 0; at < std::min(expected.size(), actual.size()); ++at) {
+      if (auto found = difference(expected[at], actual[at], place + "/" + std::to_string(at))) return found;
+    }
+    if (expected.size() == actual.size()) return std::nullopt;
+    return differs(place + " has " + std::to_string(actual.size()) + " entries");
+  }
+  if (expected.is_string() && actual.is_string() && same_text(expected, actual)) return std::nullopt;
+  return expected == actual ? std::nullopt : std::optional(differs(place));
+}
+
+std::optional<std::string> difference(const Step& step, const json& answer) {
+  if (step.expected.empty()) {
+    return answer.contains("error") ? std::optional<std::string>("is refused") : std::nullopt;
+  }
+  const json expected = json::parse(step.expected);
+  if (auto found = difference(expected, answer)) return found;
+  if (answer.contains("error") && !expected.contains("error")) return "is refused";
+  if (!expected.contains("notices") && answer.contains("notices") && !answer["notices"].empty()) {
+    return "shows a notice that isn't expected";
+  }
+  return std::nullopt;
+}
+
+struct Telling {
+  std::string name;
+  files::path path;
+  const Dialect* dialect;
+  const Engine* engine;
+
+  friend void PrintTo(const Telling& telling, std::ostream* out) { *out << telling.path.filename().string(); }
+};
+
+class Cases : public ::testing::TestWithParam<Telling> {};
+
+TEST_P(Cases, come_out_as_told) {
+  const auto& [name, path, dialect, engine] = GetParam();
+  const test::FixedClock clock("2024-03-05 10:00:00");
+  const Workplace workplace;
+  const ado::ConnectionReference database = engine->open(workplace.path);
+  for (const std::string& statement : schema::statements(engine->tables)) database->Execute(statement);
+  host::Interpreter interpreter(database, {.dialect = dialect->session_name, .operator_id = "u1", .trace = true});
+  for (const Step& step : read_case(path).steps) {
+    const json answer = json::parse(interpreter.answer(step.sent));
+    if (const auto found = difference(step, answer)) {
+      ADD_FAILURE_AT(path.c_str(), static_cast<int>(step.line))
+          << *found << "\n  sent:     " << step.sent << "\n  answer:   " << answer.dump();
+    }
+  }
+}
+
+// Every case in each of its dialects on each engine.
+std::vector<Telling> tellings() {
+  std::vector<Telling> list;
+  for (const auto& entry : files::recursive_directory_iterator(folder)) {
+    if (entry.path().extension() != ".case") continue;
+    const std::string asked = read_case(entry.path()).dialect;
+    for (const Dialect& dialect : dialects) {
+      if (asked != "both" && asked != dialect.name) continue;
+      for (const Engine& engine : engines()) {
+        std::string name = entry.path().parent_path().filename().string() + "_" + entry.path().stem().string();
+        name += "_in_" + dialect.name + "_on_" + engine.name;
+        std::replace_if(
+            name.begin(), name.end(), [](unsigned char c) { return !std::isalnum(c); }, '_');
+        list.push_back({name, entry.path(), &dialect, &engine});
+      }
+    }
+  }
+  std::sort(list.begin(), list.end(), [](const Telling& a, const Telling& b) { return a.name < b.name; });
+  return list;
+}
+
+INSTANTIATE_TEST_SUITE_P(All, Cases, ::testing::ValuesIn(tellings()),
+                         [](const auto& telling) { return telling.param.name; });
+
+}  // namespace

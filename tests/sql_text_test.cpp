@@ -1,0 +1,58 @@
+#include "brunvik/foundation/sql_text.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "brunvik/foundation/Brunvik_Variable.h"
+#include "tests/support/apartment.h"
+
+namespace brunvik {
+namespace {
+
+TEST(SqlText, Puts_each_value_at_its_place) {
+  EXPECT_EQ(sql("update stockbill set Status={},Auditor={} where id={}", Long{3}, std::string("O'Neil "), "QTR1"),
+            "update stockbill set Status=3,Auditor='O''Neil' where id='QTR1'");
+}
+
+TEST(SqlText, Without_places_the_text_goes_out_as_it_stands) {
+  EXPECT_EQ(sql("select * from goods"), "select * from goods");
+}
+
+TEST(SqlText, Writes_each_type_as_a_value) {
+  EXPECT_EQ(sql("{},{},{},{},{},{},{},{}", Byte{7}, Integer{-3}, Long{100'000}, Single{0.1F}, 0.25,
+                Money::parse("12.50"), true, false),
+            "7,-3,100000,0.1,0.25,12.5,1,0");
+}
+
+TEST(SqlText, Writes_a_dynamically_typed_value_by_what_it_holds) {
+  test::Session guard;
+  session().DATAType = access_dialect;
+  const Value null{ado::Null()};
+  const Value text{"a'b"};
+  const Value date{ado::parse_date("2024-03-05 10:00:00")};
+  EXPECT_EQ(sql("{},{},{}", null, text, date), "null,'a''b',#2024-03-05 10:00:00#");
+}
+
+TEST(SqlText, A_value_with_braces_is_a_value) { EXPECT_EQ(sql("a={} b={}", "{}", "{raw}"), "a='{}' b='{raw}'"); }
+
+TEST(SqlText, A_like_key_is_escaped_and_has_no_like_word) {
+  EXPECT_EQ(sql("id > {like} and type={}", std::string(" a_1'% "), Long{6}), "id > 'a[_]1''[%]' and type=6");
+}
+
+TEST(SqlText, A_raw_value_goes_in_as_it_stands) {
+  EXPECT_EQ(sql("delete from {raw} where bid= '{raw} '", "RPBItems", std::string("O'Neil ")),
+            "delete from RPBItems where bid= 'O'Neil  '");
+  EXPECT_EQ(sql("{raw}{raw}", Long{3}, Money::parse("0.5")), "30.5");
+}
+
+TEST(SqlText, Quoting_trims_blanks_and_doubles_apostrophes) {
+  std::string text = "x=";
+  append_quoted(text, " it's ");
+  append_quoted(text, "   ");
+  append_quoted(text, "''");
+  EXPECT_EQ(text, "x='it''s'''''''''");
+}
+
+}  // namespace
+}  // namespace brunvik

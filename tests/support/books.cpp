@@ -1,0 +1,31 @@
+#include "tests/support/books.h"
+
+#include "schema/ddl.h"
+
+namespace brunvik::test {
+
+std::shared_ptr<sqlite::Connection> lay_books() {
+  auto books = sqlite::open(":memory:");
+  run(*books, schema::statements(schema::Engine::sqlite));
+  return books;
+}
+
+void run(ado::Connection& books, const std::vector<std::string>& statements) {
+  for (const std::string& statement : statements) books.Execute(statement);
+}
+
+std::vector<std::string> records(ado::Connection& books, std::string_view select) {
+  std::vector<std::string> lines;
+  for (auto set = books.Execute(select); !set.at_end(); set.MoveNext()) {
+    std::string line;
+    for (std::size_t column = 0; column < set.names().size(); ++column) {
+      const Value& value = set.value(ado::Column{column});
+      if (column > 0) line += '|';
+      line += value.is_null() ? "null" : value.as_text();
+    }
+    lines.push_back(line);
+  }
+  return lines;
+}
+
+}  // namespace brunvik::test
