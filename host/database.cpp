@@ -43,7 +43,11 @@ bool lay_tables(ado::Connection& database) {
     database.Execute("commit");
     return empty;
   } catch (...) {
-    database.Execute("rollback");
+    try {
+      database.Execute("rollback");
+    } catch (const ado::RuntimeError&) {
+      // After some failures, a full disk among them, the engine has done so itself; what counts is that failure.
+    }
     throw;
   }
 }

@@ -3,6 +3,7 @@
 #include "brunvik/ado/errors.h"
 #include "brunvik/ado/names.h"
 #include "brunvik/billframe/stock_row.h"
+#include "brunvik/foundation/goods_record.h"
 #include "brunvik/purchasing/purchase_receipt.h"
 #include "brunvik/purchasing/purchase_return.h"
 #include "brunvik/sales/sales_issue.h"
@@ -108,6 +109,7 @@ std::shared_ptr<RowCollection> create_rows(std::string_view record_class) {
       RecordClass{"CountRow", make_rows<CountRow>},
       RecordClass{"PaymentRow", make_rows<PaymentRow>},
       RecordClass{"SettledRow", make_rows<SettledRow>},
+      RecordClass{"GoodsRecord", make_rows<GoodsRecord>},
   };
   return named(std::span<const RecordClass>(record_classes), record_class, ado::error::no_such_class).create_rows();
 }
