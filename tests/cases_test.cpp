@@ -15,7 +15,6 @@
 //
 // The clock stands at 2024-03-05 10:00:00, and answers hold the statements that were sent.
 #include <gtest/gtest.h>
-#include <stdlib.h>
 
 #include <algorithm>
 #include <array>
@@ -30,6 +29,7 @@
 #include "drivers/sqlite/connection.h"
 #include "host/interpreter.h"
 #include "schema/ddl.h"
+#include "tests/sqlite_books.h"
 #include "tests/support/apartment.h"
 
 namespace {
@@ -38,40 +38,22 @@ using namespace brunvik;
 using nlohmann::json;
 namespace files = std::filesystem;
 
-const files::path folder = BRUNVIK_CASES;
-
-// Where a database may put its files for as long as a case takes.
-class Workplace {
- public:
-  Workplace() {
-    std::string name = (files::temp_directory_path() / "brunvik-case-XXXXXX").string();
-    if (!mkdtemp(name.data())) throw std::runtime_error("no temporary folder");
-    path = name;
-  }
-  ~Workplace() {
-    std::error_code ignored;
-    files::remove_all(path, ignored);
-  }
-  Workplace(const Workplace&) = delete;
-  Workplace& operator=(const Workplace&) = delete;
-
-  files::path path;
-};
+const files::path case_folder = BRUNVIK_CASES;
 
 struct Engine {
   std::string name;
   schema::Engine tables;
-  std::function<ado::ConnectionReference(const files::path& workplace)> open;
+  // On files, where it needs any, in a folder that goes with the case.
+  std::function<ado::ConnectionReference(const sqlite::Folder& folder)> open;
 };
 
 // The engines that the cases are run on.
 const std::vector<Engine>& engines() {
   static const std::vector<Engine> list{
-      {"sqlite_memory", schema::Engine::sqlite, [](const files::path&) { return sqlite::open(":memory:"); }},
+      {"sqlite_memory", schema::Engine::sqlite, [](const sqlite::Folder&) { return sqlite::open(":memory:"); }},
       {"sqlite_file", schema::Engine::sqlite,
-       [](const files::path& workplace) {
-         return sqlite::open((workplace / "books.db").string(),
-                             {.synchronous = sqlite::Synchronous::normal, .create = true});
+       [](const sqlite::Folder& folder) {
+         return sqlite::open(folder.file("books.db"), {.synchronous = sqlite::Synchronous::normal, .create = true});
        }},
   };
   return list;
@@ -116,7 +98,7 @@ Case read_case(const files::path& path) {
     } else if (kind == '@' && content.starts_with("dialect ")) {
       read.dialect = trimmed(content.substr(8));
     } else if (kind == '@' && content.starts_with("include ")) {
-      const Case setup = read_case(folder / "setup" / trimmed(content.substr(8)));
+      const Case setup = read_case(case_folder / "setup" / trimmed(content.substr(8)));
       read.steps.insert(read.steps.end(), setup.steps.begin(), setup.steps.end());
     } else if (kind != '#') {
       throw std::runtime_error(path.string() + ":" + std::to_string(number) + ": '" + line + "' is no line of a case");
@@ -138,7 +120,8 @@ std::optional<std::string> difference(const json& expected, const json& actual, 
   };
   if (expected.is_object() && actual.is_object()) {
     for (const auto& [name, value] : expected.items()) {
-      const std::string inner = place + "/" + name;
+      std::string inner = place;
+      inner.append("/").append(name);
       if (!actual.contains(name)) return inner + " is missing\n  expected: " + value.dump();
       if (auto found = difference(value, actual[name], inner)) return found;
     }
@@ -182,8 +165,8 @@ class Cases : public ::testing::TestWithParam<Telling> {};
 TEST_P(Cases, come_out_as_told) {
   const auto& [name, path, dialect, engine] = GetParam();
   const test::FixedClock clock("2024-03-05 10:00:00");
-  const Workplace workplace;
-  const ado::ConnectionReference database = engine->open(workplace.path);
+  const sqlite::Folder folder;
+  const ado::ConnectionReference database = engine->open(folder);
   for (const std::string& statement : schema::statements(engine->tables)) database->Execute(statement);
   host::Interpreter interpreter(database, {.dialect = dialect->session_name, .operator_id = "u1", .trace = true});
   for (const Step& step : read_case(path).steps) {
@@ -198,7 +181,7 @@ TEST_P(Cases, come_out_as_told) {
 // Every case in each of its dialects on each engine.
 std::vector<Telling> tellings() {
   std::vector<Telling> list;
-  for (const auto& entry : files::recursive_directory_iterator(folder)) {
+  for (const auto& entry : files::recursive_directory_iterator(case_folder)) {
     if (entry.path().extension() != ".case") continue;
     const std::string asked = read_case(entry.path()).dialect;
     for (const Dialect& dialect : dialects) {

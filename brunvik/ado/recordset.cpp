@@ -1,6 +1,5 @@
 #include "brunvik/ado/recordset.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "brunvik/ado/connection.h"
@@ -9,12 +8,43 @@
 
 namespace brunvik::ado {
 
+namespace {
+
+// Equal for equal names; for other names seldom.
+std::uint32_t mark_of(std::string_view name) noexcept {
+  if (name.empty()) return 0;
+  const auto letter = [&](std::size_t place) {
+    return static_cast<std::uint32_t>(static_cast<unsigned char>(name[place]) | 0x20U);
+  };
+  return static_cast<std::uint32_t>(name.size()) ^ letter(0) << 8 ^ letter(name.size() / 2) << 16 ^
+         letter(name.size() - 1) << 24;
+}
+
+}  // namespace
+
+ColumnNames::ColumnNames(std::vector<std::string> names) : names_(std::move(names)) {
+  for (const std::string& name : names_) marks_.push_back(mark_of(name));
+}
+
+std::size_t ColumnNames::find(std::string_view name) const noexcept {
+  const std::uint32_t mark = mark_of(name);
+  std::size_t place = 0;
+  for (; place < marks_.size(); ++place) {
+    if (marks_[place] == mark && same_name(names_[place], name)) break;
+  }
+  return place;
+}
+
 Recordset::Recordset(std::vector<std::string> names, std::vector<Value> cells)
-    : open_(true), names_(std::move(names)), cells_(std::move(cells)) {}
+    : Recordset(std::make_shared<const ColumnNames>(std::move(names)), std::move(cells)) {}
+
+Recordset::Recordset(std::shared_ptr<const ColumnNames> names, std::vector<Value> cells)
+    : open_(true), width_(names->list().size()), names_(std::move(names)), cells_(std::move(cells)) {}
 
 void Recordset::Close() noexcept {
   open_ = false;
-  names_.clear();
+  width_ = 0;
+  names_.reset();
   cells_.clear();
   record_ = 0;
 }
@@ -33,7 +63,7 @@ void Recordset::Open(std::string_view source) {
 
 bool Recordset::at_end() const {
   if (!open_) raise(error::object_closed);
-  return record_ >= record_count();
+  return record_ * width_ >= cells_.size();
 }
 
 void Recordset::MoveNext() {
@@ -46,23 +76,25 @@ void Recordset::MoveFirst() {
   record_ = 0;
 }
 
-std::size_t Recordset::record_count() const noexcept { return names_.empty() ? 0 : cells_.size() / names_.size(); }
+std::size_t Recordset::record_count() const noexcept { return width_ == 0 ? 0 : cells_.size() / width_; }
+
+const std::vector<std::string>& Recordset::names() const noexcept {
+  static const std::vector<std::string> none;
+  return names_ ? names_->list() : none;
+}
 
 Column Recordset::column(std::string_view name) const {
   if (!open_) raise(error::object_closed);
-  for (std::size_t place = 0; place < names_.size(); ++place) {
-    if (same_name(names_[place], name)) return Column{place};
-  }
-  raise(error::no_such_field);
+  const std::size_t place = names_->find(name);
+  if (place == width_) raise(error::no_such_field);
+  return Column{place};
 }
 
-bool Recordset::has(std::string_view name) const noexcept {
-  return std::any_of(names_.begin(), names_.end(), [&](const std::string& own) { return same_name(own, name); });
-}
+bool Recordset::has(std::string_view name) const noexcept { return open_ && names_->find(name) != width_; }
 
 const Value& Recordset::value(Column column) const {
   if (at_end()) raise(error::no_current_record);
-  return cells_[record_ * names_.size() + static_cast<std::size_t>(column)];
+  return cells_[record_ * width_ + static_cast<std::size_t>(column)];
 }
 
 Recordset execute(const ConnectionReference& connection, std::string_view statement) {

@@ -8,6 +8,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -23,6 +24,21 @@ class Connection;
 // The place of a column in a set, found once and good for all of its records.
 enum class Column : std::size_t {};
 
+// The names of a set's columns, in their order. A driver makes them once for a statement, for all sets that it selects.
+class ColumnNames {
+ public:
+  explicit ColumnNames(std::vector<std::string> names);
+
+  const std::vector<std::string>& list() const noexcept { return names_; }
+
+  // Without regard to the case of ASCII letters; the first of two equal names. The count of names where there is none.
+  std::size_t find(std::string_view name) const noexcept;
+
+ private:
+  std::vector<std::string> names_;
+  std::vector<std::uint32_t> marks_;
+};
+
 class Recordset : public Object {
  public:
   // A closed set.
@@ -30,6 +46,7 @@ class Recordset : public Object {
 
   // An open set: `cells` holds the records one after the other, each with a value for every name.
   Recordset(std::vector<std::string> names, std::vector<Value> cells);
+  Recordset(std::shared_ptr<const ColumnNames> names, std::vector<Value> cells);
 
   // 0 when the set is closed, 1 when it is open.
   Long State() const noexcept { return open_ ? 1 : 0; }
@@ -47,7 +64,7 @@ class Recordset : public Object {
   void MoveFirst();
 
   std::size_t record_count() const noexcept;
-  const std::vector<std::string>& names() const noexcept { return names_; }
+  const std::vector<std::string>& names() const noexcept;
 
   // Names are compared without regard to the case of ASCII letters; the first of two equal names counts. Error 3265.
   Column column(std::string_view name) const;
@@ -60,7 +77,8 @@ class Recordset : public Object {
  private:
   std::shared_ptr<Connection> connection_;
   bool open_ = false;
-  std::vector<std::string> names_;
+  std::size_t width_ = 0;
+  std::shared_ptr<const ColumnNames> names_;
   std::vector<Value> cells_;
   std::size_t record_ = 0;
 };

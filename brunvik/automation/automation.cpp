@@ -105,10 +105,8 @@ Value call_procedure(std::string_view name, std::vector<Value>& arguments) {
 
 std::shared_ptr<RowCollection> create_rows(std::string_view record_class) {
   static constexpr std::array record_classes{
-      RecordClass{"StockRow", make_rows<StockRow>},
-      RecordClass{"CountRow", make_rows<CountRow>},
-      RecordClass{"PaymentRow", make_rows<PaymentRow>},
-      RecordClass{"SettledRow", make_rows<SettledRow>},
+      RecordClass{"StockRow", make_rows<StockRow>},       RecordClass{"CountRow", make_rows<CountRow>},
+      RecordClass{"PaymentRow", make_rows<PaymentRow>},   RecordClass{"SettledRow", make_rows<SettledRow>},
       RecordClass{"GoodsRecord", make_rows<GoodsRecord>},
   };
   return named(std::span<const RecordClass>(record_classes), record_class, ado::error::no_such_class).create_rows();

@@ -19,6 +19,7 @@ void read_rows(RowCollection& rows, ado::Recordset set, const RowMembers& member
   if (set.at_end()) return;
   std::vector<std::pair<const Member*, ado::Column>> fields;
   fields.reserve(members.size());
+  rows.reserve(set.record_count());
   for (const Member* member : members) fields.emplace_back(member, set.column(member->read_column()));
   for (; !set.at_end(); set.MoveNext()) {
     auto& row = static_cast<Row&>(rows.add());

@@ -44,7 +44,9 @@ void rewrite_booleans(std::string& statement) {
                                                                                               {"FALSE,", "0,"},
                                                                                               {"= FALSE", "= 0"},
                                                                                               {"=FALSE", "=0"}}};
-  for (const auto& [search, replacement] : replacements) statement = replaced(statement, search, replacement);
+  for (const auto& [search, replacement] : replacements) {
+    if (statement.find(search) != std::string::npos) statement = replaced(statement, search, replacement);
+  }
 }
 
 void run_in_upper_case(std::string& statement) {
@@ -58,16 +60,16 @@ void run_in_upper_case(std::string& statement) {
 std::string GetSqlVal(const Value& Value, bool IsLike, std::string_view WildCard, std::string_view Position) {
   std::string text;
   trap("GetSqlVal():", [&] {
+    // The types of nearly all values, in front of the general road.
+    if (const auto* words = Value.get_if<std::string>(); words && !IsLike) return append_quoted(text, *words);
+    if (const auto* number = Value.get_if<Long>()) return ado::append_number(text, std::int64_t{*number});
+    if (const auto* amount = Value.get_if<Money>()) return amount->append_to(text);
     Value.visit([&](const auto& content) {
       using Type = std::decay_t<decltype(content)>;
       if constexpr (std::is_same_v<Type, ado::Empty> || std::is_same_v<Type, ado::Null>) {
         text = "null";
       } else if constexpr (std::is_same_v<Type, std::string>) {
-        if (IsLike) {
-          text = like_text(content, WildCard, Position);
-        } else {
-          append_quoted(text, content);
-        }
+        text = like_text(content, WildCard, Position);
       } else if constexpr (std::is_same_v<Type, Date>) {
         std::string date = Get_DateStr(content, 0);
         text = content == Date{} ? "null" : std::move(date);

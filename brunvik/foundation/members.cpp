@@ -37,7 +37,13 @@ void visit_stored(Type type, void* place, Visitor&& visitor) {
   }
 }
 
-void take(std::string& property, const Value& value) { property = value.as_text(); }
+void take(std::string& property, const Value& value) {
+  if (const auto* text = value.get_if<std::string>()) {
+    property = *text;
+  } else {
+    property = value.as_text();
+  }
+}
 void take(Byte& property, const Value& value) { property = value.as_byte(); }
 void take(Integer& property, const Value& value) { property = value.as_integer(); }
 void take(Long& property, const Value& value) { property = value.as_long(); }

@@ -30,6 +30,9 @@ class RowCollection : public ado::Object {
   // A new row at the end. It stands where it is until the next row comes or goes.
   virtual PublicObject& add() = 0;
 
+  // Room for this many rows.
+  virtual void reserve(std::size_t count) = 0;
+
   virtual void clear() noexcept = 0;
 
   // Becomes a copy of rows of the same class; error 13 for rows of another class.
@@ -50,6 +53,7 @@ class Collection final : public RowCollection {
 
   Row& add() override { return rows_.emplace_back(); }
   void add(Row row) { rows_.push_back(std::move(row)); }
+  void reserve(std::size_t count) override { rows_.reserve(count); }
   void clear() noexcept override { rows_.clear(); }
 
   void assign(const RowCollection& other) override {

@@ -36,6 +36,11 @@ std::string upper_case(std::string_view text) {
     return result;
   }
   while (!text.empty()) {
+    if (static_cast<unsigned char>(text.front()) < 0x80) {
+      result += upper_ascii(text.front());
+      text.remove_prefix(1);
+      continue;
+    }
     utf8proc_int32_t character = -1;
     const auto* bytes = reinterpret_cast<const utf8proc_uint8_t*>(text.data());
     const auto length = utf8proc_iterate(bytes, static_cast<utf8proc_ssize_t>(text.size()), &character);

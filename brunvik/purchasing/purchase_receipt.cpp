@@ -126,6 +126,7 @@ void PurchaseReceipt::read_rows_of(Long row_number, bool with_arrivals) {
 
 void PurchaseReceipt::row_was_read(StockRow& row, const ado::Recordset& set) {
   if (set.value("RowNum").is_null()) row.Rownum = 1;
+  if (!set.has("XFMount")) return;
   for (const char* name : {"xfmount", "MeansOfPayment"}) {
     const Member& member = StockRow::table().named(name);
     if (set.has(member.read_column())) member.read(row, set.value(member.read_column()));

@@ -31,10 +31,15 @@ BaseQuantity base_quantity(const StockRow& row) {
 
 StockRow stored_row(const ado::Recordset& set) {
   StockRow row;
-  for (const std::string_view name : {"Gid", "Class", "Model1", "Model2", "Unit", "Qty", "Receiver", "Supplier"}) {
-    const Member& member = StockRow::table().named(name);
-    member.read(row, set.value(member.read_column()));
-  }
+  row.Gid = set.value("GId").joined_text();
+  row.Class = set.value("Class").joined_text();
+  row.Model1 = set.value("Model1").joined_text();
+  row.Model2 = set.value("Model2").joined_text();
+  row.Unit = set.value("unit").joined_text();
+  const Value& quantity = set.value("qty");
+  if (!quantity.is_null()) row.Qty = quantity.as_single();
+  row.Receiver = set.value("Receiver").joined_text();
+  row.Supplier = set.value("Supplier").joined_text();
   return row;
 }
 

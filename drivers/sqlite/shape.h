@@ -19,14 +19,14 @@ class ResultColumns {
  public:
   ResultColumns(sqlite3_stmt* statement, const Rewritten& rewritten);
 
-  bool empty() const noexcept { return names_.empty(); }
-  const std::vector<std::string>& names() const noexcept { return names_; }
+  bool empty() const noexcept { return types_.empty(); }
+  const std::shared_ptr<const ado::ColumnNames>& names() const noexcept { return names_; }
 
   // Adds the values of the statement's current row.
   void fetch(sqlite3_stmt* statement, std::vector<ado::Value>& cells) const;
 
  private:
-  std::vector<std::string> names_;
+  std::shared_ptr<const ado::ColumnNames> names_;
   std::vector<ColumnType> types_;
 };
 

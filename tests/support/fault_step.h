@@ -11,18 +11,18 @@ namespace brunvik::test {
 
 struct Step {
   // How the statement begins, its road in front, and a word that it holds further on.
-  std::string begins;
-  std::string holds;
+  std::string begins = {};
+  std::string holds = {};
 
   // The notice of its failure as "title|text" without the error's text; empty where none is shown.
-  std::string notice;
+  std::string notice = {};
 
   // Whether the verb ends there, with this result; else it goes on without the steps of these names.
   bool ends = true;
   Long result = rehearsed_number;
-  std::vector<std::string> skips;
+  std::vector<std::string> skips = {};
 
-  std::string name;
+  std::string name = {};
 };
 
 using Steps = std::vector<Step>;

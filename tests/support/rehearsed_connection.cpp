@@ -11,6 +11,7 @@ RehearsedConnection::RehearsedConnection(ado::ConnectionReference driver, std::s
     : driver_(std::move(driver)), road_(road), rehearsal_(std::move(rehearsal)) {}
 
 ado::Recordset RehearsedConnection::Execute(std::string_view CommandText) {
+  if (closed) ado::raise(ado::error::object_closed);
   rehearsal_->statements.push_back(road_ + "|" + std::string(CommandText));
   if (rehearsal_->statements.size() == rehearsal_->fails_at) {
     throw ado::RuntimeError(rehearsed_number, std::string(rehearsed_text), std::string(CommandText));

@@ -27,7 +27,9 @@ class RehearsedConnection final : public ado::Connection {
   RehearsedConnection(ado::ConnectionReference driver, std::string_view road, std::shared_ptr<Rehearsal> rehearsal);
 
   ado::Recordset Execute(std::string_view CommandText) override;
-  Long State() const noexcept override { return driver_->State(); }
+  Long State() const noexcept override { return closed ? 0 : driver_->State(); }
+
+  bool closed = false;
 
  private:
   ado::ConnectionReference driver_;
