@@ -2,6 +2,8 @@
 add_library(brunvik_options INTERFACE)
 target_compile_features(brunvik_options INTERFACE cxx_std_20)
 target_compile_options(brunvik_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Werror)
+# g++ 12 sees an overlap where a literal is assigned to a string, and there is none.
+target_compile_options(brunvik_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 target_include_directories(brunvik_options INTERFACE ${PROJECT_SOURCE_DIR})
 
 if(BRUNVIK_SANITIZE)

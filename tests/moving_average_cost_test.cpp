@@ -77,6 +77,8 @@ TEST_F(AuditUpdateAverageCostTest, The_first_receipt_takes_the_price) {
   stock(money("0"), ado::Null());
   EXPECT_EQ(audit(2, "10.5"), "10.5");
   EXPECT_EQ(written(), "10.5");
+  stock(money("7"), 0);
+  EXPECT_EQ(audit(0.3333F, "0.0005"), "0.0005");  // no quotient: 0.0002 / 0.3333 would be 0.0006
 }
 
 TEST_F(AuditUpdateAverageCostTest, The_quotient_is_rounded_to_four_places) {

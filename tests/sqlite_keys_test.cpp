@@ -47,15 +47,41 @@ TEST_F(SqliteKeys, Joins_groups_and_the_highest_value_follow_the_same_rule) {
   EXPECT_EQ(text("select max(Id) from StockBill"), "QTR24030500010");
 }
 
-TEST_F(SqliteKeys, Trailing_blanks_are_cut_when_a_value_is_stored) {
-  run("insert into StockBill(Id,Remarks) values('B1  ','two  ')");
-  run("insert into StockBill(Id,Remarks) select 'B2 ','x '");
-  run("update StockBill set Auditor='u1  ' where Id='B1'");
-  run("update StockBill set AuditTime=Auditor||' ' where Id='B1'");
+TEST_F(SqliteKeys, Trailing_blanks_of_a_key_are_cut_when_it_is_stored) {
+  run("insert into StockBill(Id) values('B1  ')");
+  run("insert into StockBill(Id) select 'B2 '");
+  run("insert into StockBillItems(BillId) values('B1 ')");
+  run("update StockBillItems set BillId=BillId||' '");
   EXPECT_EQ(count("select count(*) from StockBill where length(Id)=2"), 2);
-  EXPECT_EQ(text("select Remarks from StockBill where Id='B1'"), "two");
-  EXPECT_EQ(text("select Auditor from StockBill where Id='B1'"), "u1");
-  EXPECT_EQ(text("select AuditTime from StockBill where Id='B1'"), "u1");
+  EXPECT_EQ(count("select count(*) from StockBillItems where length(BillId)=2"), 1);
+}
+
+TEST_F(SqliteKeys, Text_that_is_no_key_keeps_its_trailing_blanks_and_compares_without_them) {
+  run("insert into StockBill(Id,Remarks) values('B1','two  ')");
+  EXPECT_EQ(text("select Remarks from StockBill where Id='B1'"), "two  ");
+  EXPECT_EQ(count("select count(*) from StockBill where Remarks='two'"), 1);
+}
+
+TEST_F(SqliteKeys, Letters_of_every_script_compare_without_their_case) {
+  run("insert into StockBill(Id,Auditor) values('ｍ６café','φ')");
+  EXPECT_EQ(count("select count(*) from StockBill where id='Ｍ６CAFÉ'"), 1);
+  EXPECT_EQ(count("select count(*) from StockBill where id='Ｍ６CAFE'"), 0);
+  EXPECT_EQ(count("select count(*) from StockBill where Auditor='Φ'"), 1);
+  EXPECT_EQ(count("select count(*) from StockBill where id like 'Ｍ%é'"), 1);
+  EXPECT_EQ(error_of(*books, "insert into StockBill(Id) values('Ｍ６CAFÉ')"), ado::error::constraint_violated);
+}
+
+TEST_F(SqliteKeys, Keys_of_every_script_stand_in_one_order) {
+  const char* const ordered[] = {"a", "B", "É", "é1", "φ", "Я", "主", "仓", "ａ", "Ｂ"};
+  for (const char* id : {"Ｂ", "主", "é1", "a", "仓", "φ", "B", "ａ", "Я", "É"}) {
+    run(std::string("insert into StockBill(Id) values('") + id + "')");
+  }
+  auto set = run("select Id from StockBill order by Id");
+  for (const char* id : ordered) {
+    EXPECT_EQ(set.value("Id").as_text(), id);
+    EXPECT_EQ(count(std::string("select count(*) from StockBill where id='") + id + "'"), 1);
+    set.MoveNext();
+  }
 }
 
 TEST_F(SqliteKeys, Text_keeps_its_case_its_blanks_and_its_characters) {

@@ -23,8 +23,14 @@ void read_rows(RowCollection& rows, ado::Recordset set, const RowMembers& member
   for (const Member* member : members) fields.emplace_back(member, set.column(member->read_column()));
   for (; !set.at_end(); set.MoveNext()) {
     auto& row = static_cast<Row&>(rows.add());
-    for (const auto& [member, column] : fields) member->read(row, set.value(column));
-    finish(row, set);
+    try {
+      for (const auto& [member, column] : fields) member->read(row, set.value(column));
+      finish(row, set);
+    } catch (...) {
+      // A row counts when all of it is read: a voucher must not settle the row whose bill it could not look at.
+      rows.remove_last();
+      throw;
+    }
   }
 }
 

@@ -30,6 +30,9 @@ class RowCollection : public ado::Object {
   // A new row at the end. It stands where it is until the next row comes or goes.
   virtual PublicObject& add() = 0;
 
+  // Takes the last row away; there must be one.
+  virtual void remove_last() noexcept = 0;
+
   // Room for this many rows.
   virtual void reserve(std::size_t count) = 0;
 
@@ -54,6 +57,7 @@ class Collection final : public RowCollection {
   Row& add() override { return rows_.emplace_back(); }
   void add(Row row) { rows_.push_back(std::move(row)); }
   void reserve(std::size_t count) override { rows_.reserve(count); }
+  void remove_last() noexcept override { rows_.pop_back(); }
   void clear() noexcept override { rows_.clear(); }
 
   void assign(const RowCollection& other) override {

@@ -1,55 +1,24 @@
 #include "brunvik/foundation/text.h"
 
-#include <utf8proc.h>
-
-#include <algorithm>
-#include <array>
+#include "brunvik/ado/characters.h"
 
 namespace brunvik {
 
 namespace {
 
-bool is_ascii(std::string_view text) {
-  return std::none_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
-}
-
-constexpr char upper_ascii(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - ('a' - 'A')) : c; }
-
 constexpr bool continues_character(char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U; }
-
-// The simple mapping leaves ß as it is; the library would write ẞ.
-constexpr utf8proc_int32_t sharp_s = 0xDF;
-
-void append_upper_case(std::string& result, utf8proc_int32_t character) {
-  std::array<utf8proc_uint8_t, 4> bytes{};
-  const auto length = utf8proc_encode_char(character == sharp_s ? sharp_s : utf8proc_toupper(character), bytes.data());
-  result.append(bytes.begin(), bytes.begin() + length);
-}
 
 }  // namespace
 
 std::string upper_case(std::string_view text) {
   std::string result;
   result.reserve(text.size());
-  if (is_ascii(text)) {
-    std::transform(text.begin(), text.end(), std::back_inserter(result), upper_ascii);
-    return result;
-  }
   while (!text.empty()) {
-    if (static_cast<unsigned char>(text.front()) < 0x80) {
-      result += upper_ascii(text.front());
-      text.remove_prefix(1);
-      continue;
-    }
-    utf8proc_int32_t character = -1;
-    const auto* bytes = reinterpret_cast<const utf8proc_uint8_t*>(text.data());
-    const auto length = utf8proc_iterate(bytes, static_cast<utf8proc_ssize_t>(text.size()), &character);
-    if (length > 0) {
-      append_upper_case(result, character);
-      text.remove_prefix(static_cast<std::size_t>(length));
+    const char32_t character = ado::upper_case(ado::take_character(text));
+    if (character < 0x80) {
+      result += static_cast<char>(character);
     } else {
-      result += text.front();
-      text.remove_prefix(1);
+      ado::append_character(result, character);
     }
   }
   return result;

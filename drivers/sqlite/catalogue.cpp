@@ -14,6 +14,10 @@ namespace {
 
 constexpr std::string_view columns_of = "select name, type from pragma_table_info(?)";
 
+constexpr std::string_view keys_of =
+    "select part.name from pragma_index_list(?) as list, pragma_index_info(list.name) as part "
+    "where part.name is not null";
+
 constexpr std::string_view indexes_of = "select sql from sqlite_master where type='index' and lower(tbl_name)=lower(?)";
 
 std::string_view column_text(sqlite3_stmt* statement, int column) {
@@ -72,6 +76,11 @@ const TableDescription& Catalogue::table(std::string_view name) {
   TableDescription columns;
   for_each_row(database_, columns_of, name, [&columns](sqlite3_stmt* row) {
     columns.push_back({std::string(column_text(row, 0)), type_of_declaration(column_text(row, 1))});
+  });
+  for_each_row(database_, keys_of, name, [&columns](sqlite3_stmt* row) {
+    for (ColumnDescription& column : columns) {
+      if (column.type == ColumnType::text && column.name == column_text(row, 0)) column.type = ColumnType::key;
+    }
   });
   static const TableDescription none;
   // Names that are no tables come from texts, and there is no end to them.

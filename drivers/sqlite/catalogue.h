@@ -14,6 +14,7 @@ namespace brunvik::sqlite {
 // How the values of a column are kept and returned.
 enum class ColumnType {
   text,
+  key,  // text with an index
   money,
   single,
   whole,

@@ -6,7 +6,7 @@
 // A statement comes as plain text in the words of either dialect. What stands between apostrophes, and every number,
 // is a value and nothing else: it is cut out of the text and bound, so that no value can change what a statement does,
 // and the prepared statement of each shape is kept. Money columns (declared MONEY) hold exact amounts of four places,
-// REAL columns single-precision numbers; text compares without regard to ASCII case and to trailing blanks.
+// REAL columns single-precision numbers; text compares without regard to case and to trailing blanks.
 //
 // A connection belongs to one thread at a time. Several connections, of one process or of many, may share a file.
 #pragma once

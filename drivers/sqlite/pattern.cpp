@@ -1,10 +1,9 @@
 #include "drivers/sqlite/pattern.h"
 
 #include <cstddef>
-#include <cstdint>
 #include <stdexcept>
 
-#include "brunvik/ado/names.h"
+#include "brunvik/ado/characters.h"
 
 namespace brunvik::sqlite {
 
@@ -20,11 +19,16 @@ std::size_t length_of_character(std::string_view text) noexcept {
   return length;
 }
 
-// Characters in their order, letters of ASCII without their case.
-std::uint32_t order_of(std::string_view character) noexcept {
-  std::uint32_t order = 0;
-  for (const char c : character) order = order << 8 | static_cast<unsigned char>(ado::lower(c));
-  return order;
+// Characters in their order, letters without their case.
+char32_t order_of(std::string_view character) noexcept { return ado::upper_case(ado::take_character(character)); }
+
+// The engine knows the two cases of ASCII letters alone.
+bool has_case_beyond_ascii(std::string_view text) noexcept {
+  while (!text.empty()) {
+    const char32_t character = ado::take_character(text);
+    if (character >= 0x80 && ado::has_case(character)) return true;
+  }
+  return false;
 }
 
 // What stands between the bracket at the front and its end, which is never the first character of the list; null
@@ -37,17 +41,17 @@ std::string_view list_at(std::string_view pattern) noexcept {
 bool list_has(std::string_view list, std::string_view character) noexcept {
   const bool outside = list.size() > 1 && list.front() == '^';
   if (outside) list.remove_prefix(1);
-  const std::uint32_t wanted = order_of(character);
+  const char32_t wanted = order_of(character);
   const auto take = [&list] {
     const std::size_t length = length_of_character(list);
-    const std::uint32_t order = order_of(list.substr(0, length));
+    const char32_t order = order_of(list.substr(0, length));
     list.remove_prefix(length);
     return order;
   };
   bool found = false;
   while (!list.empty() && !found) {
-    const std::uint32_t first = take();
-    std::uint32_t last = first;
+    const char32_t first = take();
+    char32_t last = first;
     if (list.size() > 1 && list.front() == '-') {
       list.remove_prefix(1);
       last = take();
@@ -94,7 +98,7 @@ std::string quoted(std::string_view text) {
 TranslatedPattern translate_pattern(std::string_view literal) {
   const std::string pattern = plain_text(literal);
   std::string translated;
-  bool has_lists = false;
+  bool has_lists = has_case_beyond_ascii(pattern);
   bool has_escapes = false;
   for (std::string_view rest = pattern; !rest.empty();) {
     if (rest.front() != '[') {

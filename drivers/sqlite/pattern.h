@@ -1,5 +1,5 @@
 // LIKE patterns: % for any text, _ for one character, and in brackets one character of a list, as in [_], [a-f],
-// [^0-9]. Letters of ASCII match without regard to case.
+// [^0-9]. Letters match without regard to case.
 #pragma once
 
 #include <string>
@@ -9,7 +9,7 @@ namespace brunvik::sqlite {
 
 // A pattern in the engine's words: what stands behind the column, LIKE or NOT LIKE left in front of it.
 struct TranslatedPattern {
-  bool has_lists;       // only the driver's own matching knows them
+  bool has_lists;       // or letters beyond ASCII: only the driver's own matching knows them
   std::string literal;  // with its apostrophes, and with an ESCAPE where it needs one
 };
 

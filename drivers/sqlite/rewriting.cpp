@@ -177,13 +177,14 @@ class Rewriter {
 
   // An expression whose value goes into a column.
   void assign(std::size_t first, std::size_t end, ColumnType type) {
-    if (first == end || type == ColumnType::other || type == ColumnType::whole) return range(first, end);
+    const bool as_it_is = type == ColumnType::other || type == ColumnType::whole || type == ColumnType::text;
+    if (first == end || as_it_is) return range(first, end);
     std::size_t bare = first;
-    while (bare < end && is_sign(tokens_[bare]) && type != ColumnType::text) ++bare;
+    while (bare < end && is_sign(tokens_[bare]) && type != ColumnType::key) ++bare;
     if (bare + 1 == end) {
       const Token& token = tokens_[bare];
       if (token.kind == TokenKind::parameter) {
-        result_.targets[token.parameter] = type == ColumnType::text    ? Target::text
+        result_.targets[token.parameter] = type == ColumnType::key     ? Target::key
                                            : type == ColumnType::money ? Target::money
                                                                        : Target::single;
         return range(first, end);
@@ -193,11 +194,11 @@ class Rewriter {
     const bool is_column =
         tokens_[first].is_name() && !is_keyword(tokens_[first]) && expressions_.end_of_path(first, end) == end;
     if (is_column && expressions_.type_of_path(first, end) == type) return range(first, end);
-    out_.write(type == ColumnType::text    ? "rtrim("
+    out_.write(type == ColumnType::key     ? "rtrim("
                : type == ColumnType::money ? money_function
                                            : single_function,
                tokens_[first].blank_before);
-    if (type != ColumnType::text) out_.write("(", false);
+    if (type != ColumnType::key) out_.write("(", false);
     const Run run = expressions_.run_at(first, end);
     if (run.end == end) {
       operands(first, end, run.kind == Arithmetic::money);

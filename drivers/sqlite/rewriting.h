@@ -2,7 +2,7 @@
 //
 // - TOP n, convert(int, x), clng(x), #dates#, `delete *`, LIKE with lists in brackets.
 // - What is assigned to a column is rounded as the column keeps it: a literal when it is bound, an expression by a
-//   function of the driver. Text loses its trailing blanks.
+//   function of the driver. Text keys lose their trailing blanks.
 // - Arithmetic and sums on money come out exact to four places, wherever they stand.
 // - Two minus signs are two minus signs (there are no comments): a negative value behind a minus takes nothing away.
 #pragma once
@@ -16,7 +16,7 @@
 namespace brunvik::sqlite {
 
 // What a cut-out value becomes when it is bound.
-enum class Target : unsigned char { plain, text, money, single };
+enum class Target : unsigned char { plain, key, money, single };
 
 // What the engine can't tell of a column that is no column of a table.
 struct SelectedColumn {

@@ -45,8 +45,6 @@ double double_of_amount(std::int64_t ten_thousandths) noexcept {
 double single_of(double value) noexcept {
   if (std::fabs(value) > std::numeric_limits<float>::max()) return std::copysign(HUGE_VAL, value);
   const float single = static_cast<float>(value);
-  // From here on a single is a whole number, and is written with all of its digits.
-  if (std::fabs(single) >= 0x1p24F) return static_cast<double>(single);
   // A decimal of up to six digits that names the single is the shortest one that does.
   const double count = std::nearbyint(value * 10'000);
   if (std::fabs(count) < 1'000'000) {
@@ -54,7 +52,7 @@ double single_of(double value) noexcept {
     if (static_cast<float>(decimal) == single && (count != 0 || value == 0)) return decimal;
   }
   std::array<char, 64> text;
-  const auto end = std::to_chars(text.data(), text.data() + text.size(), single).ptr;
+  const auto end = std::to_chars(text.data(), text.data() + text.size(), single, std::chars_format::scientific).ptr;
   double decimal = single;
   std::from_chars(text.data(), end, decimal);
   return decimal;

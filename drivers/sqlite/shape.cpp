@@ -74,7 +74,7 @@ void Shape::bind_text(int place, const Literal& literal, Target target, std::str
     }
     content = std::string_view(plain_texts_).substr(start);
   }
-  if (target == Target::text) {
+  if (target == Target::key) {
     content = without_trailing_blanks(content);
   } else if (target != Target::plain) {
     const std::string_view number = ado::trimmed_number(content);
