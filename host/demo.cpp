@@ -100,7 +100,7 @@ class Demo {
 
  private:
   std::string take_money(const Trade& trade, const std::string& company, const std::string& bill, int amount) {
-    const std::string id = new_object("voucher", trade.voucher_class, trade.voucher_title, nullptr);
+    std::string id = new_object("voucher", trade.voucher_class, trade.voucher_title, nullptr);
     put("voucher", {{"ID", id},
                     {"Ccompany", company},
                     {"Paidamount", amount},

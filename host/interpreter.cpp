@@ -22,7 +22,7 @@ Json error_json(Long number, std::string_view description) {
 
 Value Interpreter::Way::reference() const { return set ? Value(ado::ObjectReference(connection)) : Value(ado::Null()); }
 
-Interpreter::Interpreter(ado::ConnectionReference database, Settings settings)
+Interpreter::Interpreter(ado::ConnectionReference database, const Settings& settings)
     : database_(std::move(database)), tracing_(settings.trace), trace_(std::make_shared<Trace>(settings.trace)) {
   bills_.connection = std::make_shared<TracedConnection>(database_, Road::bill, trace_);
   sessions_.connection = std::make_shared<TracedConnection>(database_, Road::session, trace_);

@@ -42,7 +42,7 @@ class UnreadableLine : public std::runtime_error {
 class Interpreter {
  public:
   // Starts the session.
-  Interpreter(ado::ConnectionReference database, Settings settings);
+  Interpreter(ado::ConnectionReference database, const Settings& settings);
   ~Interpreter();
   Interpreter(const Interpreter&) = delete;
   Interpreter& operator=(const Interpreter&) = delete;

@@ -1,5 +1,7 @@
 // The brunvik command: a host without screens.
 #include <CLI/CLI.hpp>
+#include <cstdio>
+#include <exception>
 #include <fstream>
 #include <iostream>
 
@@ -112,10 +114,7 @@ int carried_out(int (*command)(const Options&), const Options& options) {
   }
 }
 
-}  // namespace
-
-int main(int count, char** words) {
-  std::ios::sync_with_stdio(false);
+int parsed_and_carried_out(int count, char** words) {
   Options options;
   options.command = words[0];
   CLI::App app("Stock, accounts and costs: the books of a trading company, kept in a database.", "brunvik");
@@ -149,4 +148,16 @@ int main(int count, char** words) {
   if (schema.parsed()) return schema_command();
   if (demo.parsed()) return carried_out(demo_command, options);
   return carried_out(run_command, options);
+}
+
+}  // namespace
+
+int main(int count, char** words) {
+  std::ios::sync_with_stdio(false);
+  try {
+    return parsed_and_carried_out(count, words);
+  } catch (const std::exception& failure) {
+    std::fprintf(stderr, "brunvik: %s\n", failure.what());
+    return no_database;
+  }
 }

@@ -60,6 +60,7 @@ std::string Table::text() const {
   if (!headings_.empty()) {
     append(headings_);
     std::vector<std::string> rules;
+    rules.reserve(widths.size());
     for (const std::size_t width : widths) rules.emplace_back(width, '-');
     append(rules);
   }

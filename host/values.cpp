@@ -6,6 +6,7 @@
 #include <limits>
 #include <nlohmann/json.hpp>
 #include <optional>
+#include <ranges>
 #include <type_traits>
 
 #include "brunvik/ado/date.h"
@@ -182,7 +183,7 @@ void put_properties(PublicObject& object, const Json& values) {
       before.emplace_back(&member, std::move(present));
     }
   } catch (const ado::RuntimeError& failure) {
-    for (auto put = before.rbegin(); put != before.rend(); ++put) put->first->put(object, put->second);
+    for (const auto& [member, present] : std::views::reverse(before)) member->put(object, present);
     throw ado::RuntimeError(failure.number(), failure.description() + ": " + *name);
   }
 }

@@ -193,7 +193,7 @@ TEST(HostCommand, An_answer_comes_before_the_next_line_is_said) {
 
 TEST(HostCommand, An_answer_that_can_t_be_written_ends_the_run) {
   const int full = open("/dev/full", O_WRONLY | O_CLOEXEC);
-  if (full < 0) GTEST_SKIP() << "no /dev/full here";
+  ASSERT_GE(full, 0);
   const Folder folder;
   std::ofstream(folder.file("lines")) << one_goods << one_goods;
   const std::string books = "sqlite:" + folder.file("books.db");
