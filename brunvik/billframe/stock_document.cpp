@@ -59,23 +59,22 @@ void StockDocument::read_header() { read_properties(execute(sql("select * from S
 
 void StockDocument::read_rows() {
   if (form().warehouse == WarehouseColumn::Receiver) {
-    take_rows(
-        execute(sql("select StockBillItems.*,warehouse.WName from StockBillItems left join Warehouse on "
-                    "stockbillitems.Receiver = Warehouse.id where stockbillitems.BillId={} "
-                    "order by stockbillitems.rownum",
-                    ID)));
+    take_rows(execute(sql("select StockBillItems.*,warehouse.WName from StockBillItems left join Warehouse on "
+                          "stockbillitems.Receiver = Warehouse.id where stockbillitems.BillId={} "
+                          "order by stockbillitems.rownum",
+                          ID)),
+              finish_row());
   } else {
-    take_rows(
-        execute(sql("select StockBillItems.*,warehouse.WName from StockBillItems left join Warehouse on "
-                    "stockbillitems.Supplier = Warehouse.id where stockbillitems.BillId={} "
-                    "order by stockbillitems.rownum",
-                    ID)));
+    take_rows(execute(sql("select StockBillItems.*,warehouse.WName from StockBillItems left join Warehouse on "
+                          "stockbillitems.Supplier = Warehouse.id where stockbillitems.BillId={} "
+                          "order by stockbillitems.rownum",
+                          ID)),
+              finish_row());
   }
 }
 
-void StockDocument::take_rows(ado::Recordset set) {
-  brunvik::read_rows<StockRow>(rows(), std::move(set), form().row_members_read,
-                               [&](StockRow& row, const ado::Recordset& record) { row_was_read(row, record); });
+void StockDocument::take_rows(ado::Recordset set, FinishRow finish) {
+  brunvik::read_rows<StockRow>(rows(), std::move(set), form().row_members_read, finish);
 }
 
 void StockDocument::remove_rows() { execute(sql("delete from StockBillItems where BillId={}", ID)); }

@@ -43,11 +43,15 @@ class StockDocument : public Bill {
   void find_last(std::string& last, std::string_view series) override;
   void find_near(const std::string& current, std::string& near, bool next, std::string_view series) override;
 
-  // The rows become those of the set.
-  void take_rows(ado::Recordset set);
+  // The rows become those of the set. `finish` gets each row, and the set at its record, for what a document reads
+  // beside the fields that it writes.
+  using FinishRow = void (*)(StockRow& row, const ado::Recordset& set);
+  void take_rows(ado::Recordset set, FinishRow finish);
 
-  // For what a document reads beside the common fields of a row.
-  virtual void row_was_read(StockRow&, const ado::Recordset&) {}
+  // What take_rows is given for all rows of the bill.
+  virtual FinishRow finish_row() const {
+    return [](StockRow&, const ado::Recordset&) {};
+  }
 
   StockRow& row(std::size_t position) { return static_cast<StockRow&>(rows().at(position)); }
 };

@@ -167,6 +167,10 @@ void Member::append_to(std::string& statement, const PublicObject& object) const
 }
 
 void Member::read(PublicObject& object, const Value& field) const {
+  if (type_ == Type::Text) {
+    auto& text = *static_cast<std::string*>(place_(object));
+    return field.is_null() ? text.clear() : take(text, field);
+  }
   if (field.is_null() && required_) ado::raise(ado::error::invalid_use_of_null);
   visit_stored(type_, place_(object), [&](auto& property) {
     if (field.is_null()) {

@@ -11,6 +11,23 @@
 
 namespace brunvik {
 
+namespace {
+
+// A row without a number counts as the first.
+void number_unnumbered_row(StockRow& row, const ado::Recordset& set) {
+  if (row.Rownum == 0 && set.value("RowNum").is_null()) row.Rownum = 1;
+}
+
+void read_arrival(StockRow& row, const ado::Recordset& set) {
+  number_unnumbered_row(row, set);
+  for (const char* name : {"xfmount", "MeansOfPayment"}) {
+    const Member& member = StockRow::table().named(name);
+    member.read(row, set.value(member.read_column()));
+  }
+}
+
+}  // namespace
+
 // The members of both classes; `advance` marks those that an opening balance doesn't have.
 template <class Leaf>
 Members PurchaseReceipt::receipt_members() {
@@ -106,11 +123,11 @@ void PurchaseReceipt::read_rows_of(Long row_number, bool with_arrivals) {
   constexpr Long all_rows = -1;
   if (!with_arrivals) {
     if (row_number == all_rows) return read_rows();
-    return take_rows(
-        execute(sql("select StockBillItems.*,warehouse.WName from StockBillItems left join Warehouse on "
-                    "stockbillitems.Receiver = Warehouse.id where stockbillitems.RowNum={} and "
-                    "stockbillitems.BillId={} order by stockbillitems.rownum",
-                    row_number, ID)));
+    return take_rows(execute(sql("select StockBillItems.*,warehouse.WName from StockBillItems left join Warehouse on "
+                                 "stockbillitems.Receiver = Warehouse.id where stockbillitems.RowNum={} and "
+                                 "stockbillitems.BillId={} order by stockbillitems.rownum",
+                                 row_number, ID)),
+                     number_unnumbered_row);
   }
   std::string statement =
       "select StockBillItems.*,warehouse.WName,AdjustStockBill.MeansOfPayment,AdjustStockBill.Amount as XFMount"
@@ -121,17 +138,10 @@ void PurchaseReceipt::read_rows_of(Long row_number, bool with_arrivals) {
                                       : sql("where AdjustStockBill.StockRowNum={} and stockbillitems.BillId={} "
                                             "order by AdjustStockBill.StockRowNum",
                                             row_number, ID);
-  take_rows(execute(statement));
+  take_rows(execute(statement), read_arrival);
 }
 
-void PurchaseReceipt::row_was_read(StockRow& row, const ado::Recordset& set) {
-  if (set.value("RowNum").is_null()) row.Rownum = 1;
-  if (!set.has("XFMount")) return;
-  for (const char* name : {"xfmount", "MeansOfPayment"}) {
-    const Member& member = StockRow::table().named(name);
-    if (set.has(member.read_column())) member.read(row, set.value(member.read_column()));
-  }
-}
+StockDocument::FinishRow PurchaseReceipt::finish_row() const { return number_unnumbered_row; }
 
 Long PurchaseReceipt::Audit(bool bJKC) noexcept {
   return trap([&] {

@@ -41,7 +41,7 @@ class PurchaseReceipt : public TradeDocument {
   static Members receipt_members();
   static StockForm receipt_form(const Kind& kind, const Members& members);
 
-  void row_was_read(StockRow& row, const ado::Recordset& set) override;
+  FinishRow finish_row() const override;
 
  private:
   void read_rows_of(Long row_number, bool with_arrivals);

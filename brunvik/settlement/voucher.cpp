@@ -151,9 +151,7 @@ void Voucher::read_open_amount(SettledRow& row, std::string_view table) const {
   if (set.at_end()) return;
   row.BillAmount = money_or_zero(set.value("billamount"));
   row.OpenAmount = row.BillAmount - money_or_zero(set.value("PaidAmount"));
-  for (const std::string& name : set.names()) {
-    if (name == "PaidAmount2") row.OpenAmount -= money_or_zero(set.value(name));
-  }
+  if (set.has("PaidAmount2")) row.OpenAmount -= money_or_zero(set.value("PaidAmount2"));
 }
 
 std::string sum_of_vouchers(const std::string& bill) {
