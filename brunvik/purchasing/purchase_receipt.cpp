@@ -46,7 +46,7 @@ Members PurchaseReceipt::receipt_members() {
       property<&C::Salesman>("Salesman", "Salesman"),
       property<&C::Creator>("Creator", "Creator"),
       property<&C::Createtime>("Createtime", "CreateTime"),
-      computed<&C::Inoutflag>("Inoutflag"),
+      computed<&C::Inoutflag>("Inoutflag", "InOutFlag"),
       property<&C::Audittime>("Audittime", "AuditTime"),
       property<&C::Status>("Status", "Status").required(),
       property<&C::Paidamount>("Paidamount", "PaidAmount"),

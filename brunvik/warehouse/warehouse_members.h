@@ -21,7 +21,7 @@ Member bill_cost() {
 
 template <class C>
 Member in_out_flag() {
-  if constexpr (requires { &C::Inoutflag; }) return computed<&C::Inoutflag>("Inoutflag");
+  if constexpr (requires { &C::Inoutflag; }) return computed<&C::Inoutflag>("Inoutflag", "InOutFlag");
   return Member::unpublished();
 }
 
