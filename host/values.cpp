@@ -6,7 +6,6 @@
 #include <limits>
 #include <nlohmann/json.hpp>
 #include <optional>
-#include <ranges>
 #include <type_traits>
 
 #include "brunvik/ado/date.h"
@@ -183,7 +182,7 @@ void put_properties(PublicObject& object, const Json& values) {
       before.emplace_back(&member, std::move(present));
     }
   } catch (const ado::RuntimeError& failure) {
-    for (const auto& [member, present] : std::views::reverse(before)) member->put(object, present);
+    for (; !before.empty(); before.pop_back()) before.back().first->put(object, before.back().second);
     throw ado::RuntimeError(failure.number(), failure.description() + ": " + *name);
   }
 }
