@@ -29,8 +29,8 @@
 #include "drivers/sqlite/connection.h"
 #include "host/interpreter.h"
 #include "schema/ddl.h"
-#include "tests/sqlite_books.h"
 #include "tests/support/apartment.h"
+#include "tests/support/folder.h"
 
 namespace {
 
@@ -44,15 +44,15 @@ struct Engine {
   std::string name;
   schema::Engine tables;
   // On files, where it needs any, in a folder that goes with the case.
-  std::function<ado::ConnectionReference(const sqlite::Folder& folder)> open;
+  std::function<ado::ConnectionReference(const Folder& folder)> open;
 };
 
 // The engines that the cases are run on.
 const std::vector<Engine>& engines() {
   static const std::vector<Engine> list{
-      {"sqlite_memory", schema::Engine::sqlite, [](const sqlite::Folder&) { return sqlite::open(":memory:"); }},
+      {"sqlite_memory", schema::Engine::sqlite, [](const Folder&) { return sqlite::open(":memory:"); }},
       {"sqlite_file", schema::Engine::sqlite,
-       [](const sqlite::Folder& folder) {
+       [](const Folder& folder) {
          return sqlite::open(folder.file("books.db"), {.synchronous = sqlite::Synchronous::normal, .create = true});
        }},
   };
@@ -165,7 +165,7 @@ class Cases : public ::testing::TestWithParam<Telling> {};
 TEST_P(Cases, come_out_as_told) {
   const auto& [name, path, dialect, engine] = GetParam();
   const test::FixedClock clock("2024-03-05 10:00:00");
-  const sqlite::Folder folder;
+  const Folder folder;
   const ado::ConnectionReference database = engine->open(folder);
   for (const std::string& statement : schema::statements(engine->tables)) database->Execute(statement);
   host::Interpreter interpreter(database, {.dialect = dialect->session_name, .operator_id = "u1", .trace = true});

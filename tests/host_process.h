@@ -14,34 +14,14 @@
 #include <string>
 #include <vector>
 
+#include "tests/support/folder.h"
+
 namespace brunvik::host {
 
 inline std::string content_of(const std::filesystem::path& file) {
   std::ifstream stream(file, std::ios::binary);
   return {std::istreambuf_iterator<char>(stream), {}};
 }
-
-// A folder that is there as long as the test.
-class Folder {
- public:
-  Folder() : path_(std::filesystem::temp_directory_path() / "brunvik-test-XXXXXX") {
-    std::string name = path_.string();
-    if (!mkdtemp(name.data())) throw std::runtime_error("no folder for the test");
-    path_ = name;
-  }
-  ~Folder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(path_, ignored);
-  }
-  Folder(const Folder&) = delete;
-  Folder& operator=(const Folder&) = delete;
-
-  std::string file(const std::string& name) const { return (path_ / name).string(); }
-  const std::filesystem::path& path() const { return path_; }
-
- private:
-  std::filesystem::path path_;
-};
 
 // A running command with its three streams, any of which may be a descriptor of the caller's.
 class Process {

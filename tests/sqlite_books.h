@@ -2,7 +2,6 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <stdlib.h>
 
 #include <filesystem>
 #include <memory>
@@ -11,6 +10,7 @@
 
 #include "brunvik/ado/errors.h"
 #include "drivers/sqlite/connection.h"
+#include "tests/support/folder.h"
 
 namespace brunvik::sqlite {
 
@@ -32,27 +32,6 @@ inline constexpr std::string_view small_books[] = {
     "CREATE TABLE Warehouse (Id TEXT COLLATE NOCASE NOT NULL PRIMARY KEY, WName TEXT COLLATE NOCASE)",
     "CREATE TABLE ZHXX (ID TEXT COLLATE NOCASE NOT NULL PRIMARY KEY, ZH TEXT COLLATE NOCASE, KHH TEXT COLLATE NOCASE,"
     " YE MONEY DEFAULT 0 CHECK (typeof(YE) NOT IN ('text', 'blob')))",
-};
-
-// A folder that is gone when the test is over.
-class Folder {
- public:
-  Folder() {
-    std::string name = (std::filesystem::temp_directory_path() / "brunvik-XXXXXX").string();
-    if (!mkdtemp(name.data())) throw std::runtime_error("no temporary folder");
-    path_ = name;
-  }
-  ~Folder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(path_, ignored);
-  }
-  Folder(const Folder&) = delete;
-  Folder& operator=(const Folder&) = delete;
-
-  std::string file(std::string_view name) const { return (path_ / name).string(); }
-
- private:
-  std::filesystem::path path_;
 };
 
 inline void lay_small_books(Connection& connection) {

@@ -20,9 +20,7 @@ const StockForm& clsReportOfOverflowBill::form() const {
   return form;
 }
 
-void clsReportOfOverflowBill::post(const StockRow& row, Long& result) {
-  poster().PostOverflow(row, refer_flag(), result);
-}
+void clsReportOfOverflowBill::post(const StockRow& row, Long& result) { poster().PostOverflow(row, Referflag, result); }
 void clsReportOfOverflowBill::undo_post(Long& result) { poster().UndoOverflow(ID, result); }
 
 const Members& clsReportOfLossesBill::members() const {
@@ -39,19 +37,17 @@ const StockForm& clsReportOfLossesBill::form() const {
   return form;
 }
 
-void clsReportOfLossesBill::post(const StockRow& row, Long& result) { poster().PostLoss(row, refer_flag(), result); }
+void clsReportOfLossesBill::post(const StockRow& row, Long& result) { poster().PostLoss(row, Referflag, result); }
 void clsReportOfLossesBill::undo_post(Long& result) { poster().UndoLoss(ID, result); }
 
-// Moves the report from one status to the other and costs its rows; a report that isn't there, or has another status,
-// empties ID.
-void CountReport::change_status(Long from, Long to) {
+void CountReport::change_status(bool audited) {
   if (ID.empty()) throw Stop{-1};
   const auto stored = execute(sql("select * from StockBill where Id={}", ID));
-  const bool audited = !stored.at_end() && stored.value("Status").as_long() == status::audited;
-  if (stored.at_end() || audited != (from == status::audited)) {
+  if (stored.at_end() || (stored.value("Status").as_long() == status::audited) == audited) {
     ID.clear();
     return;
   }
+  const Long to = audited ? status::audited : status::saved;
   execute(sql("update stockbill set Status = {},Auditor = {},AuditTime = {} where Id={}", to, Auditor, Audittime, ID));
   read_rows();
   for_each_stock_row([&](StockRow& row) { write_cost_at_price(row); });
@@ -60,7 +56,7 @@ void CountReport::change_status(Long from, Long to) {
 
 Long CountReport::UpdateAudited() noexcept {
   return trap([&] {
-    change_status(status::saved, status::audited);
+    change_status(true);
     if (ID.empty()) return;
     for_each_stock_row([&](StockRow& row) {
       Long result = 0;
@@ -72,7 +68,7 @@ Long CountReport::UpdateAudited() noexcept {
 
 Long CountReport::CancelAudited() noexcept {
   return trap([&] {
-    change_status(status::audited, status::saved);
+    change_status(false);
     if (ID.empty()) return;
     Long result = 0;
     undo_post(result);

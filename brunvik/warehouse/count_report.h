@@ -33,12 +33,13 @@ class CountReport : public WarehouseDocument {
  protected:
   RowCollection& rows() override { return colBillItems; }
 
-  virtual Long refer_flag() const = 0;
   virtual void post(const StockRow& row, Long& result) = 0;
   virtual void undo_post(Long& result) = 0;
 
  private:
-  void change_status(Long from, Long to);
+  // Moves the report that is stored to the other status and costs its rows. Empties ID where there is no such report,
+  // and where it has that status already.
+  void change_status(bool audited);
 };
 
 class clsReportOfOverflowBill final : public CountReport {
@@ -51,7 +52,6 @@ class clsReportOfOverflowBill final : public CountReport {
 
  protected:
   const StockForm& form() const override;
-  Long refer_flag() const override { return Referflag; }
   void post(const StockRow& row, Long& result) override;
   void undo_post(Long& result) override;
 };
@@ -68,7 +68,6 @@ class clsReportOfLossesBill final : public CountReport {
 
  protected:
   const StockForm& form() const override;
-  Long refer_flag() const override { return Referflag; }
   void post(const StockRow& row, Long& result) override;
   void undo_post(Long& result) override;
 };
