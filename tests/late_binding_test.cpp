@@ -129,9 +129,16 @@ TEST_F(LateBinding, A_parameter_knows_its_type_and_the_record_that_it_takes) {
   EXPECT_EQ(Sample::table().named("Count").parameters()[0].make_record, nullptr);
 }
 
-TEST(Verb, Described_with_another_count_of_parameters_than_it_has_is_refused) {
-  EXPECT_EQ(error_number([] { verb<&Sample::Save>("Save", {in("Too many")}); }), 450);
-  EXPECT_EQ(error_number([] { verb<&Sample::GetNewId>("GetNewId"); }), 450);
+template <auto pointer, class... Described>
+concept CanBeDescribed = requires(Described... parameters) {
+  verb<pointer>("Name", parameters...);
+};
+
+TEST(Verb, Described_with_another_count_of_parameters_than_it_has_does_not_compile) {
+  static_assert(CanBeDescribed<&Sample::GetNewId, Parameter>);
+  static_assert(!CanBeDescribed<&Sample::GetNewId>);
+  static_assert(CanBeDescribed<&Sample::Save>);
+  static_assert(!CanBeDescribed<&Sample::Save, Parameter>);
 }
 
 Long twice(Long number, std::string& seen) {
@@ -140,7 +147,7 @@ Long twice(Long number, std::string& seen) {
 }
 
 TEST(Procedure, Is_called_with_dynamically_typed_arguments) {
-  const Procedure procedure = brunvik::procedure<&twice>("twice", {in("Number"), out("Seen")});
+  const Procedure procedure = brunvik::procedure<&twice>("twice", in("Number"), out("Seen"));
   EXPECT_EQ(procedure.name, "twice");
   EXPECT_EQ(procedure.result, Type::Long);
   std::vector<Value> arguments{"21", ""};

@@ -39,7 +39,7 @@ Long Bill::Delete() noexcept {
 
 Long Bill::LoadById(const std::string& BID) noexcept {
   return trap([&] {
-    ID = BID;
+    number() = BID;
     read_header();
     read_rows();
   });
@@ -65,8 +65,8 @@ Long Bill::last_of_series(std::string& LastId, std::string_view series) noexcept
 
 Long Bill::load_last_of_series(std::string_view series) noexcept {
   return trap([&] {
-    stop_unless_done(last_of_series(ID, series));
-    if (ID.empty()) return;
+    stop_unless_done(last_of_series(number(), series));
+    if (number().empty()) return;
     read_header();
     read_rows();
   });
@@ -79,8 +79,8 @@ Long Bill::neighbour_in_series(const std::string& CurBillID, std::string& NearBi
 
 Long Bill::load_neighbour_in_series(bool next, std::string_view series) noexcept {
   return trap([&] {
-    find_near(ID, ID, next, series);
-    if (ID.empty()) return;
+    find_near(number(), number(), next, series);
+    if (number().empty()) return;
     read_header();
     read_rows();
   });

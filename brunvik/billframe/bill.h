@@ -17,6 +17,9 @@
 
 namespace brunvik {
 
+// The result of a save that finds no number.
+inline constexpr Long result_without_id = -1;
+
 class Bill : public PublicObject {
  public:
   // The connection that the bill's own statements run on; the host sets it before any verb.
@@ -54,6 +57,10 @@ class Bill : public PublicObject {
 
  protected:
   enum class Saving { bill, draft };
+
+  // The number of the bill. A family that publishes it under another name than ID keeps it in a property of its own.
+  virtual std::string& number() { return ID; }
+  const std::string& number() const { return const_cast<Bill*>(this)->number(); }
 
   // Verbs that not every document publishes.
 

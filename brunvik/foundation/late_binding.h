@@ -77,17 +77,17 @@ constexpr MakeRecord record_maker() {
 
 template <class... Parameters>
 struct Call {
+  static constexpr std::size_t count = sizeof...(Parameters);
   using Arguments = std::tuple<Argument<Parameters>...>;
 
-  static std::vector<Parameter> described(std::vector<Parameter> parameters) {
-    const std::array<Type, sizeof...(Parameters)> types{type_of<Parameters>()...};
-    if (parameters.size() != types.size()) ado::raise(ado::error::wrong_argument_count);
-    const std::array<MakeRecord, sizeof...(Parameters)> makers{record_maker<Parameters>()...};
-    for (std::size_t place = 0; place < types.size(); ++place) {
+  static std::vector<Parameter> described(std::array<Parameter, count> parameters) {
+    const std::array<Type, count> types{type_of<Parameters>()...};
+    const std::array<MakeRecord, count> makers{record_maker<Parameters>()...};
+    for (std::size_t place = 0; place < count; ++place) {
       parameters[place].type = types[place];
       parameters[place].make_record = makers[place];
     }
-    return parameters;
+    return {parameters.begin(), parameters.end()};
   }
 
   template <class Function>
@@ -126,13 +126,14 @@ struct VerbPointer<Answer (Owner::*)(Parameters...) noexcept> : VerbPointer<Answ
 
 }  // namespace detail
 
-// A verb by its member function, with its parameters in their order.
-template <auto pointer>
-Member verb(std::string_view name, std::vector<Parameter> parameters = {}) {
+// A verb by its member function, with as many parameters as that takes, in their order.
+template <auto pointer, class... Described>
+requires(sizeof...(Described) == detail::VerbPointer<decltype(pointer)>::Invocation::count) Member
+    verb(std::string_view name, Described... parameters) {
   using Pointer = detail::VerbPointer<decltype(pointer)>;
   using Invocation = typename Pointer::Invocation;
   return Member::callable(
-      name, type_of<typename Pointer::Result>(), Invocation::described(std::move(parameters)),
+      name, type_of<typename Pointer::Result>(), Invocation::described({std::move(parameters)...}),
       [](PublicObject& object, std::span<Value> values) -> Value {
         auto& self = static_cast<typename Pointer::Class&>(object);
         return Invocation::run(
@@ -164,11 +165,12 @@ struct FunctionPointer<Answer (*)(Parameters...) noexcept> : FunctionPointer<Ans
 
 }  // namespace detail
 
-template <auto pointer>
-Procedure procedure(std::string_view name, std::vector<Parameter> parameters) {
+template <auto pointer, class... Described>
+requires(sizeof...(Described) == detail::FunctionPointer<decltype(pointer)>::Invocation::count) Procedure
+    procedure(std::string_view name, Described... parameters) {
   using Function = detail::FunctionPointer<decltype(pointer)>;
   using Invocation = typename Function::Invocation;
-  return {name, type_of<typename Function::Result>(), Invocation::described(std::move(parameters)),
+  return {name, type_of<typename Function::Result>(), Invocation::described({std::move(parameters)...}),
           [](std::span<Value> values) -> Value { return Invocation::run(pointer, values); }};
 }
 

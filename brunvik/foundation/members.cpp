@@ -146,15 +146,14 @@ Member Member::required() && {
   return std::move(*this);
 }
 
-Member Member::only_if(bool condition) && {
-  published_ = condition;
-  return std::move(*this);
-}
-
 Member Member::read_from(std::string_view column) && {
   read_column_ = column;
   written_column_ = {};
   return std::move(*this);
+}
+
+bool Member::is_kept_at(const PublicObject& object, const void* place) const {
+  return place_ && place_(const_cast<PublicObject&>(object)) == place;
 }
 
 void Member::append_to(std::string& statement, const PublicObject& object) const {
@@ -230,10 +229,8 @@ void complete_arguments(const std::vector<Parameter>& parameters, std::vector<Va
   }
 }
 
-Members::Members(std::initializer_list<Member> members) {
-  for (const Member& member : members) {
-    if (member.is_published()) members_.push_back(member);
-  }
+Members::Members(std::initializer_list<Entry> entries) {
+  for (const Entry& entry : entries) members_.insert(members_.end(), entry.members_.begin(), entry.members_.end());
 }
 
 const Member& Members::named(std::string_view name) const {
@@ -248,6 +245,13 @@ const Member& Members::written_to(std::string_view column) const {
     if (!column.empty() && ado::same_name(member.written_column(), column)) return member;
   }
   throw ado::RuntimeError(ado::error::no_such_field, "no property is written to column " + std::string(column));
+}
+
+const Member& Members::kept_at(const PublicObject& object, const void* place) const {
+  for (const Member& member : members_) {
+    if (member.is_kept_at(object, place)) return member;
+  }
+  ado::raise(ado::error::no_such_member);
 }
 
 }  // namespace brunvik

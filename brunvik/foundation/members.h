@@ -5,7 +5,7 @@
 //   static const Members table{
 //       connection<&C::ADOConn>("ADOConn"), collection<&C::colBillItems>("colBillItems"),
 //       property<&C::ID>("ID", "Id"),       property<&C::Status>("Status", "Status").required(),
-//       verb<&C::Save>("Save"),             verb<&C::GetNewId>("GetNewId", {out("BID")})};
+//       verb<&C::Save>("Save"),             verb<&C::GetNewId>("GetNewId", out("BID"))};
 #pragma once
 
 #include <initializer_list>
@@ -79,11 +79,6 @@ class Member {
   // A null in the column is error 94 when a header is read; elsewhere a null reads as nothing (empty text, 0, false).
   Member required() &&;
 
-  // A member that only some classes of a family publish: a table leaves it out where the condition is false.
-  Member only_if(bool condition) &&;
-  static Member unpublished() { return Member().only_if(false); }
-  bool is_published() const noexcept { return published_; }
-
   // The property is filled from this column when a record is read, and no statement writes it.
   Member read_from(std::string_view column) &&;
 
@@ -91,6 +86,9 @@ class Member {
   MemberKind kind() const noexcept { return kind_; }
   Type type() const noexcept { return type_; }
   const std::vector<Parameter>& parameters() const noexcept { return parameters_; }
+
+  // Whether the property is kept at this place of the object.
+  bool is_kept_at(const PublicObject& object, const void* place) const;
 
   // The column that the property is kept in, empty where there is none.
   std::string_view written_column() const noexcept { return written_column_; }
@@ -116,7 +114,6 @@ class Member {
   MemberKind kind_ = MemberKind::property;
   Type type_ = Type::Nothing;
   bool required_ = false;
-  bool published_ = true;
   std::string_view written_column_;
   std::string_view read_column_;
   std::vector<Parameter> parameters_;
@@ -128,9 +125,29 @@ class Member {
 // Completes a list of arguments by the defaults of its optional parameters; error 450 where the count is wrong.
 void complete_arguments(const std::vector<Parameter>& parameters, std::vector<Value>& arguments);
 
+// Members that stand together in several tables, or that only some classes of a family have: then the group of the
+// others is empty.
+using MemberGroup = std::vector<Member>;
+
+template <class... Group>
+MemberGroup only_if(bool condition, Group... members) {
+  return condition ? MemberGroup{std::move(members)...} : MemberGroup();
+}
+
 class Members {
  public:
-  Members(std::initializer_list<Member> members);
+  // A member, or a group of them, in a table.
+  class Entry {
+   public:
+    Entry(Member member) : members_{std::move(member)} {}
+    Entry(MemberGroup group) : members_(std::move(group)) {}
+
+   private:
+    friend class Members;
+    MemberGroup members_;
+  };
+
+  Members(std::initializer_list<Entry> entries);
 
   // By name without regard to case; error 438 where there is none.
   const Member& named(std::string_view name) const;
@@ -138,11 +155,15 @@ class Members {
   // The property that a column is written from; error 3265 where there is none.
   const Member& written_to(std::string_view column) const;
 
+  // The stored property that is kept at this place of the object, which is of the table's class; error 438 where there
+  // is none.
+  const Member& kept_at(const PublicObject& object, const void* place) const;
+
   auto begin() const noexcept { return members_.begin(); }
   auto end() const noexcept { return members_.end(); }
 
  private:
-  std::vector<Member> members_;
+  MemberGroup members_;
 };
 
 template <class Stored>

@@ -7,18 +7,18 @@
 #include "brunvik/foundation/sql_text.h"
 #include "brunvik/settlement/advance.h"
 #include "brunvik/settlement/pay_bill.h"
-#include "brunvik/stock/moving_average_cost.h"
 
 namespace brunvik {
 
 namespace {
 
 // A row without a number counts as the first.
-void number_unnumbered_row(StockRow& row, const ado::Recordset& set) {
+void number_unnumbered_row(PublicObject& read, const ado::Recordset& set) {
+  auto& row = static_cast<StockRow&>(read);
   if (row.Rownum == 0 && set.value("RowNum").is_null()) row.Rownum = 1;
 }
 
-void read_arrival(StockRow& row, const ado::Recordset& set) {
+void read_arrival(PublicObject& row, const ado::Recordset& set) {
   number_unnumbered_row(row, set);
   for (const char* name : {"xfmount", "MeansOfPayment"}) {
     const Member& member = StockRow::table().named(name);
@@ -28,16 +28,15 @@ void read_arrival(StockRow& row, const ado::Recordset& set) {
 
 }  // namespace
 
-// The members of both classes; `advance` marks those that an opening balance doesn't have.
-template <class Leaf>
-Members PurchaseReceipt::receipt_members() {
+// The members of both classes; an opening balance has no advance.
+Members PurchaseReceipt::receipt_members(const Kind& kind) {
   using C = PurchaseReceipt;
-  constexpr bool advance = std::is_same_v<Leaf, clsPurchaseInBill>;
+  const bool advance = !kind.opening;
   return Members{
       connection<&C::ADOConn>("ADOConn"),
       property<&C::CreateFlag>("CreateFlag", "CreateFlag"),
       property<&C::Nowpaybillid>("Nowpaybillid", "Nowpaybillid"),
-      property<&C::NowAdvanceBillID>("NowAdvanceBillID", "NowAdvanceBillID").only_if(advance),
+      only_if(advance, property<&C::NowAdvanceBillID>("NowAdvanceBillID", "NowAdvanceBillID")),
       collection<&C::colBillItems>("colBillItems"),
       property<&C::ID>("ID", "Id"),
       property<&C::Manualid>("Manualid", "ManualId"),
@@ -50,7 +49,7 @@ Members PurchaseReceipt::receipt_members() {
       property<&C::Audittime>("Audittime", "AuditTime"),
       property<&C::Status>("Status", "Status").required(),
       property<&C::Paidamount>("Paidamount", "PaidAmount"),
-      property<&C::AdvanceAmount>("AdvanceAmount", "AdvanceAmount").only_if(advance),
+      only_if(advance, property<&C::AdvanceAmount>("AdvanceAmount", "AdvanceAmount")),
       property<&C::Closeamount>("Closeamount", "CloseAmount"),
       property<&C::Amount>("Amount", "Amount"),
       property<&C::BillCost>("BillCost", "BillCost"),
@@ -63,51 +62,50 @@ Members PurchaseReceipt::receipt_members() {
       verb<&C::Save>("Save"),
       verb<&C::SaveAsDraft>("SaveAsDraft"),
       verb<&C::Delete>("Delete"),
-      verb<&C::GetNewId>("GetNewId", {out("BID")}),
+      verb<&C::GetNewId>("GetNewId", out("BID")),
       verb<&C::LoadLast>("LoadLast"),
-      verb<&C::GetLastId>("GetLastId", {out("LastId")}),
+      verb<&C::GetLastId>("GetLastId", out("LastId")),
       verb<&C::LoadNext>("LoadNext"),
       verb<&C::LoadPreviou>("LoadPreviou"),
-      verb<&C::LoadById>("LoadById", {in_out("BID"), optional(in("lRowNum"), Long{-1}), optional(in("bDHBJ"), false)}),
-      verb<&C::GetNearId>("GetNearId", {in("CurBillID"), out("NearBillID"), optional(in("NextPreviousId"), false)}),
-      verb<&C::Audit>("Audit", {optional(in_out("bJKC"), false)}),
-      verb<&C::UndoAudit>("UndoAudit", {optional(in_out("bJKC"), false)}),
+      verb<&C::LoadById>("LoadById", in_out("BID"), optional(in("lRowNum"), Long{-1}), optional(in("bDHBJ"), false)),
+      verb<&C::GetNearId>("GetNearId", in("CurBillID"), out("NearBillID"), optional(in("NextPreviousId"), false)),
+      verb<&C::Audit>("Audit", optional(in_out("bJKC"), false)),
+      verb<&C::UndoAudit>("UndoAudit", optional(in_out("bJKC"), false)),
   };
 }
 
-StockForm PurchaseReceipt::receipt_form(const Kind& kind, const Members& members) {
-  return {kind,
-          members,
-          WarehouseColumn::Receiver,
-          "insert into StockBill(Id,ManualId,Supplier,RManager,Salesman,Creator,CreateTime,Type,InOutFlag,Status,"
-          "[Auditor,AuditTime,]PaidAmount,<AdvanceAmount,>CloseAmount,Amount,ClosedTag,ReferFlag,Referbillid,"
-          "Nowpaybillid,<NowAdvanceBillID,>Summary,Remarks,CreateFlag) values(",
-          "update stockbill set ManualId = ,Supplier = ,RManager = ,Salesman = ,Type = ,InOutFlag = ,Status = ,"
-          "[Auditor = ,AuditTime = ,]PaidAmount = ,<AdvanceAmount = ,>CloseAmount = ,Amount = ,ClosedTag = ,"
-          "ReferFlag = ,Referbillid = ,Nowpaybillid = ,<NowAdvanceBillID = ,>Summary = ,Remarks = ,CreateFlag = "
-          " where Id=",
-          "insert into StockBillItems(BillId,RowNum,GId,GBarcode,GName,Class,Model1,Model2,unit,"
-          "qty,ActualQty,price,Amount,Cost,Receiver,Equipcode,remarks,Supplier,GoodStutas) values(",
-          {from("ActualQty", "Qty"), constant("GoodStutas", stock_status::sound)}};
+DocumentForm PurchaseReceipt::receipt_form(const Kind& kind, const Members& members) {
+  return stock_form(
+      kind, members, WarehouseColumn::Receiver,
+      "insert into StockBill(Id,ManualId,Supplier,RManager,Salesman,Creator,CreateTime,Type,InOutFlag,Status,"
+      "[Auditor,AuditTime,]PaidAmount,<AdvanceAmount,>CloseAmount,Amount,ClosedTag,ReferFlag,Referbillid,"
+      "Nowpaybillid,<NowAdvanceBillID,>Summary,Remarks,CreateFlag) values(",
+      "update stockbill set ManualId = ,Supplier = ,RManager = ,Salesman = ,Type = ,InOutFlag = ,Status = ,"
+      "[Auditor = ,AuditTime = ,]PaidAmount = ,<AdvanceAmount = ,>CloseAmount = ,Amount = ,ClosedTag = ,"
+      "ReferFlag = ,Referbillid = ,Nowpaybillid = ,<NowAdvanceBillID = ,>Summary = ,Remarks = ,CreateFlag = "
+      " where Id=",
+      "insert into StockBillItems(BillId,RowNum,GId,GBarcode,GName,Class,Model1,Model2,unit,"
+      "qty,ActualQty,price,Amount,Cost,Receiver,Equipcode,remarks,Supplier,GoodStutas) values(",
+      {from("ActualQty", "Qty"), constant("GoodStutas", stock_status::sound)});
 }
 
 const Members& clsPurchaseInBill::members() const {
-  static const Members table = receipt_members<clsPurchaseInBill>();
+  static const Members table = receipt_members(kind());
   return table;
 }
 
 const Members& clsPurchaseInBjkcBill::members() const {
-  static const Members table = receipt_members<clsPurchaseInBjkcBill>();
+  static const Members table = receipt_members(kind());
   return table;
 }
 
-const StockForm& clsPurchaseInBill::form() const {
-  static const StockForm form = receipt_form(kind(), members());
+const DocumentForm& clsPurchaseInBill::form() const {
+  static const DocumentForm form = receipt_form(kind(), members());
   return form;
 }
 
-const StockForm& clsPurchaseInBjkcBill::form() const {
-  static const StockForm form = receipt_form(kind(), members());
+const DocumentForm& clsPurchaseInBjkcBill::form() const {
+  static const DocumentForm form = receipt_form(kind(), members());
   return form;
 }
 
@@ -141,7 +139,7 @@ void PurchaseReceipt::read_rows_of(Long row_number, bool with_arrivals) {
   take_rows(execute(statement), read_arrival);
 }
 
-StockDocument::FinishRow PurchaseReceipt::finish_row() const { return number_unnumbered_row; }
+Document::FinishRow PurchaseReceipt::finish_row() const { return number_unnumbered_row; }
 
 Long PurchaseReceipt::Audit(bool bJKC) noexcept {
   return trap([&] {
@@ -152,16 +150,10 @@ Long PurchaseReceipt::Audit(bool bJKC) noexcept {
     if (kind().opening) return;
     audit_voucher<clsAdvanceBill>(NowAdvanceBillID);
     read_rows();
-    for_each_stock_row([&](StockRow& row) {
-      const Money average = AuditUpdateAverageCost(row.Gid, row.Unit, row.Class, row.Model1, row.Model2, row.Qty,
-                                                   row.price, Money::from_whole(-1));
-      write_row_cost(row, cost_at_average(average, row));
-      if (bJKC) {
-        Long result = 0;
-        poster().PostStockIn(row, false, result);
-        stop_unless_done(result);
-      }
-      update_zero_cost_issues(row.Gid);
+    cost_and_post(bJKC ? Stock::moves : Stock::stays, [](const StockRow& row) {
+      return cost_at_average(AuditUpdateAverageCost(row.Gid, row.Unit, row.Class, row.Model1, row.Model2, row.Qty,
+                                                    row.price, no_cost_delta),
+                             row);
     });
     BillCost = write_bill_cost();
   });
@@ -199,17 +191,16 @@ Long PurchaseReceipt::UndoAudit(bool bJKC) noexcept {
     undo_voucher<clsPayBill>(Nowpaybillid);
     if (kind().opening) return;
     undo_voucher<clsAdvanceBill>(NowAdvanceBillID);
-    for_each_stock_row([&](StockRow& row) {
+    cost_rows([](const StockRow& row) {
       UndoAuditUpdateAverageCost(row.Gid, row.Unit, row.Class, row.Model1, row.Model2, row.Qty, row.price,
-                                 Money::from_whole(-1));
-      write_row_cost(row, Money());
+                                 no_cost_delta);
+      return Money();
     });
     BillCost = write_bill_cost();
-    if (bJKC) {
-      // A stock balance that can't be taken back doesn't hold up the undo.
-      Long ignored = 0;
-      poster().UndoStockIn(ID, "", true, false, ignored);
-    }
+    if (!bJKC) return;
+    const StockPoster& stock = poster();
+    // A stock balance that can't be taken back doesn't hold up the undo.
+    trap([&] { stock.Undo(operation::StockIn, ID); });
   });
 }
 

@@ -37,11 +37,12 @@ class PurchaseReceipt : public TradeDocument {
   std::string NowAdvanceBillID;
   Money AdvanceAmount;
 
-  template <class Leaf>
-  static Members receipt_members();
-  static StockForm receipt_form(const Kind& kind, const Members& members);
+  static Members receipt_members(const Kind& kind);
+  static DocumentForm receipt_form(const Kind& kind, const Members& members);
 
   FinishRow finish_row() const override;
+  const Operation<StockRow>* stock_operation() const override { return &operation::StockIn; }
+  void row_posted(const StockRow& row) override { update_zero_cost_issues(row.Gid); }
 
  private:
   void read_rows_of(Long row_number, bool with_arrivals);
@@ -57,7 +58,7 @@ class clsPurchaseInBill final : public PurchaseReceipt {
   const Members& members() const override;
 
  protected:
-  const StockForm& form() const override;
+  const DocumentForm& form() const override;
 };
 
 class clsPurchaseInBjkcBill final : public PurchaseReceipt {
@@ -66,7 +67,7 @@ class clsPurchaseInBjkcBill final : public PurchaseReceipt {
   const Members& members() const override;
 
  protected:
-  const StockForm& form() const override;
+  const DocumentForm& form() const override;
 };
 
 }  // namespace brunvik

@@ -3,7 +3,6 @@
 #include "brunvik/foundation/error_trap.h"
 #include "brunvik/foundation/late_binding.h"
 #include "brunvik/settlement/pay_bill.h"
-#include "brunvik/stock/moving_average_cost.h"
 
 namespace brunvik {
 
@@ -34,42 +33,41 @@ const Members& PurchaseReturn::table() {
       property<&C::Remarks>("Remarks", "Remarks"),
       verb<&C::Save>("Save"),
       verb<&C::SaveAsDraft>("SaveAsDraft"),
-      verb<&C::GetNewId>("GetNewId", {out("BID")}),
+      verb<&C::GetNewId>("GetNewId", out("BID")),
       verb<&C::Delete>("Delete"),
       verb<&C::LoadLast>("LoadLast"),
-      verb<&C::GetLastId>("GetLastId", {out("LastId")}),
-      verb<&C::LoadById>("LoadById", {in_out("BID")}),
+      verb<&C::GetLastId>("GetLastId", out("LastId")),
+      verb<&C::LoadById>("LoadById", in_out("BID")),
       verb<&C::LoadNext>("LoadNext"),
       verb<&C::LoadPreviou>("LoadPreviou"),
-      verb<&C::GetNearId>("GetNearId", {in("CurBillID"), out("NearBillID"), optional(in("NextPreviousId"), false)}),
+      verb<&C::GetNearId>("GetNearId", in("CurBillID"), out("NearBillID"), optional(in("NextPreviousId"), false)),
       verb<&C::Audit>("Audit"),
       verb<&C::UndoAudit>("UndoAudit"),
   };
   return table;
 }
 
-StockForm PurchaseReturn::return_form(const Kind& kind) {
-  return {kind,
-          table(),
-          WarehouseColumn::Supplier,
-          "insert into StockBill(Id,ManualId,Receiver,SManager,Salesman,Creator,CreateTime,Type,InOutFlag,Status,"
-          "[Auditor,AuditTime,]PaidAmount,CloseAmount,Amount,DeliveryMethod,ClosedTag,ReferFlag,NowpayBillId,Summary,"
-          "Remarks) values(",
-          "update stockbill set ManualId = ,Receiver = ,SManager = ,Salesman = ,Type = ,InOutFlag = ,Status = ,"
-          "[Auditor = ,AuditTime = ,]PaidAmount = ,CloseAmount = ,Amount = ,DeliveryMethod = ,ClosedTag = ,"
-          "ReferFlag = ,NowpayBillId = ,Summary = ,Remarks =  where Id=",
-          "insert into StockBillItems(BillId,RowNum,GId,GBarcode,GName,Class,Model1,Model2,unit,qty,Actualqty,price,"
-          "Amount,Supplier,remarks,GoodStutas) values(",
-          {from("ActualQty", "Qty"), constant("GoodStutas", stock_status::sound)}};
+DocumentForm PurchaseReturn::return_form(const Kind& kind) {
+  return stock_form(
+      kind, table(), WarehouseColumn::Supplier,
+      "insert into StockBill(Id,ManualId,Receiver,SManager,Salesman,Creator,CreateTime,Type,InOutFlag,Status,"
+      "[Auditor,AuditTime,]PaidAmount,CloseAmount,Amount,DeliveryMethod,ClosedTag,ReferFlag,NowpayBillId,Summary,"
+      "Remarks) values(",
+      "update stockbill set ManualId = ,Receiver = ,SManager = ,Salesman = ,Type = ,InOutFlag = ,Status = ,"
+      "[Auditor = ,AuditTime = ,]PaidAmount = ,CloseAmount = ,Amount = ,DeliveryMethod = ,ClosedTag = ,"
+      "ReferFlag = ,NowpayBillId = ,Summary = ,Remarks =  where Id=",
+      "insert into StockBillItems(BillId,RowNum,GId,GBarcode,GName,Class,Model1,Model2,unit,qty,Actualqty,price,"
+      "Amount,Supplier,remarks,GoodStutas) values(",
+      {from("ActualQty", "Qty"), constant("GoodStutas", stock_status::sound)});
 }
 
-const StockForm& clsPurchaseOutBill::form() const {
-  static const StockForm form = return_form(kind());
+const DocumentForm& clsPurchaseOutBill::form() const {
+  static const DocumentForm form = return_form(kind());
   return form;
 }
 
-const StockForm& clsPurchaseOutBjkcBill::form() const {
-  static const StockForm form = return_form(kind());
+const DocumentForm& clsPurchaseOutBjkcBill::form() const {
+  static const DocumentForm form = return_form(kind());
   return form;
 }
 
@@ -80,13 +78,10 @@ Long PurchaseReturn::Audit() noexcept {
     audit_voucher<clsPayBill>(Nowpaybillid);
     if (kind().opening) return;
     read_rows();
-    for_each_stock_row([&](StockRow& row) {
-      const Money average = UndoAuditUpdateAverageCost(row.Gid, row.Unit, row.Class, row.Model1, row.Model2, row.Qty,
-                                                       row.price, Money::from_whole(-1));
-      write_row_cost(row, cost_at_average(average, row));
-      Long result = 0;
-      poster().PostStockOut(row, true, false, result);
-      stop_unless_done(result);
+    cost_and_post(Stock::moves, [](const StockRow& row) {
+      return cost_at_average(UndoAuditUpdateAverageCost(row.Gid, row.Unit, row.Class, row.Model1, row.Model2, row.Qty,
+                                                        row.price, no_cost_delta),
+                             row);
     });
     BillCost = write_bill_cost();
   });
@@ -99,15 +94,12 @@ Long PurchaseReturn::UndoAudit() noexcept {
     undo_voucher<clsPayBill>(Nowpaybillid);
     if (kind().opening) return;
     read_rows();
-    for_each_stock_row([&](StockRow& row) {
-      AuditUpdateAverageCost(row.Gid, row.Unit, row.Class, row.Model1, row.Model2, row.Qty, row.price,
-                             Money::from_whole(-1));
-      write_row_cost(row, Money());
+    cost_rows([](const StockRow& row) {
+      AuditUpdateAverageCost(row.Gid, row.Unit, row.Class, row.Model1, row.Model2, row.Qty, row.price, no_cost_delta);
+      return Money();
     });
     BillCost = write_bill_cost();
-    Long result = 0;
-    poster().UndoStockOut(ID, true, false, result);
-    stop_unless_done(result);
+    undo_stock();
   });
 }
 

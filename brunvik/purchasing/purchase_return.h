@@ -24,7 +24,9 @@ class PurchaseReturn : public TradeDocument {
 
  protected:
   static const Members& table();
-  static StockForm return_form(const Kind& kind);
+  static DocumentForm return_form(const Kind& kind);
+
+  const Operation<StockRow>* stock_operation() const override { return &operation::StockOut; }
 };
 
 class clsPurchaseOutBill final : public PurchaseReturn {
@@ -32,7 +34,7 @@ class clsPurchaseOutBill final : public PurchaseReturn {
   const Kind& kind() const override { return kind::clsPurchaseOutBill; }
 
  protected:
-  const StockForm& form() const override;
+  const DocumentForm& form() const override;
 };
 
 class clsPurchaseOutBjkcBill final : public PurchaseReturn {
@@ -40,7 +42,7 @@ class clsPurchaseOutBjkcBill final : public PurchaseReturn {
   const Kind& kind() const override { return kind::clsPurchaseOutBjkcBill; }
 
  protected:
-  const StockForm& form() const override;
+  const DocumentForm& form() const override;
 };
 
 }  // namespace brunvik

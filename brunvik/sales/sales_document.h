@@ -10,14 +10,11 @@ class SalesDocument : public TradeDocument {
  protected:
   // Marks the bill, audits its receipt, costs each row at the average and posts it, unless the stock stays. An opening
   // balance ends with its receipt: no row is read, no cost is written, and no stock moves.
-  Long audit(bool stock_stays) noexcept;
+  Long audit(Stock stock) noexcept;
 
   // Takes the receipt back, sets the cost of the rows in the object back to zero, so the bill must be loaded, and takes
   // the stock back last.
-  Long undo_audit(bool stock_stays) noexcept;
-
-  virtual void post(const StockRow& row, Long& result) = 0;
-  virtual void undo_post(Long& result) = 0;
+  Long undo_audit(Stock stock) noexcept;
 
   // The advance at the bill's side, for the document that has one.
   virtual void audit_advance() {}

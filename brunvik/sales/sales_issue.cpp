@@ -6,10 +6,9 @@
 
 namespace brunvik {
 
-template <class Leaf>
-Members SalesIssue::issue_members() {
+Members SalesIssue::issue_members(const Kind& kind) {
   using C = SalesIssue;
-  constexpr bool advance = std::is_same_v<Leaf, clsSalesOutBill>;
+  const bool advance = !kind.opening;
   const Parameter series = optional(in_out("sIDQZ"), "");
   return Members{
       connection<&C::ADOConn>("ADOConn"),
@@ -17,7 +16,7 @@ Members SalesIssue::issue_members() {
       property<&C::FHBJ>("FHBJ").read_from("FHBJ"),
       property<&C::CreateFlag>("CreateFlag", "CreateFlag"),
       property<&C::Nowpaybillid>("Nowpaybillid", "Nowpaybillid"),
-      property<&C::NowAdvanceBillID>("NowAdvanceBillID", "NowAdvanceBillID").only_if(advance),
+      only_if(advance, property<&C::NowAdvanceBillID>("NowAdvanceBillID", "NowAdvanceBillID")),
       collection<&C::colBillItems>("colBillItems"),
       property<&C::ID>("ID", "Id"),
       property<&C::Manualid>("Manualid", "ManualId"),
@@ -29,7 +28,7 @@ Members SalesIssue::issue_members() {
       property<&C::Audittime>("Audittime", "AuditTime"),
       property<&C::Status>("Status", "Status").required(),
       property<&C::Paidamount>("Paidamount", "PaidAmount"),
-      property<&C::AdvanceAmount>("AdvanceAmount", "AdvanceAmount").only_if(advance),
+      only_if(advance, property<&C::AdvanceAmount>("AdvanceAmount", "AdvanceAmount")),
       property<&C::Closeamount>("Closeamount", "CloseAmount"),
       property<&C::Amount>("Amount", "Amount"),
       property<&C::BillCost>("BillCost", "BillCost"),
@@ -49,54 +48,53 @@ Members SalesIssue::issue_members() {
       verb<&C::Save>("Save"),
       verb<&C::SaveAsDraft>("SaveAsDraft"),
       verb<&C::Delete>("Delete"),
-      verb<&C::LoadLast>("LoadLast", {series}),
-      verb<&C::GetLastId>("GetLastId", {out("LastId"), series}),
-      verb<&C::LoadById>("LoadById", {in_out("BID")}),
-      verb<&C::LoadNext>("LoadNext", {series}),
-      verb<&C::LoadPreviou>("LoadPreviou", {series}),
-      verb<&C::GetNewId>("GetNewId", {out("BID"), series}),
-      verb<&C::GetNearId>("GetNearId",
-                          {in("CurBillID"), out("NearBillID"), optional(in("NextPreviousId"), false), series}),
-      verb<&C::Audit>("Audit", {optional(in_out("bJKC"), false)}),
-      verb<&C::UndoAudit>("UndoAudit", {optional(in_out("bJKC"), false)}),
+      verb<&C::LoadLast>("LoadLast", series),
+      verb<&C::GetLastId>("GetLastId", out("LastId"), series),
+      verb<&C::LoadById>("LoadById", in_out("BID")),
+      verb<&C::LoadNext>("LoadNext", series),
+      verb<&C::LoadPreviou>("LoadPreviou", series),
+      verb<&C::GetNewId>("GetNewId", out("BID"), series),
+      verb<&C::GetNearId>("GetNearId", in("CurBillID"), out("NearBillID"), optional(in("NextPreviousId"), false),
+                          series),
+      verb<&C::Audit>("Audit", optional(in_out("bJKC"), false)),
+      verb<&C::UndoAudit>("UndoAudit", optional(in_out("bJKC"), false)),
   };
 }
 
-StockForm SalesIssue::issue_form(const Kind& kind, const Members& members) {
-  return {kind,
-          members,
-          WarehouseColumn::Supplier,
-          "insert into StockBill(Id,ManualId,Receiver,SManager,Salesman,Creator,CreateTime,Type,InOutFlag,Status,"
-          "[Auditor,AuditTime,]PaidAmount,<AdvanceAmount,>CloseAmount,Amount,InvoiceName,InvoiceType,TaxRate,"
-          "DiscountType,DiscountCard,DiscountRate,DeliveryMethod,ClosedTag,CreateFlag,ReferFlag,Referbillid,"
-          "[nowpaybillid|Nowpaybillid],<NowAdvanceBillID,>Summary,Remarks) values(",
-          "update stockbill set ManualId = ,Receiver = ,SManager = ,Salesman = ,Type = ,InOutFlag = ,Status = ,"
-          "[Auditor = ,AuditTime = ,]PaidAmount = ,<AdvanceAmount = ,>CloseAmount = ,Amount = ,InvoiceName = ,"
-          "InvoiceType = ,TaxRate = ,DiscountType = ,DiscountCard = ,DiscountRate = ,DeliveryMethod = ,ClosedTag = ,"
-          "CreateFlag = ,ReferFlag = ,Referbillid = ,Nowpaybillid = ,<NowAdvanceBillID = ,>Summary = ,Remarks = "
-          " where Id=",
-          "insert into StockBillItems(BillId,RowNum,GId,GBarcode,GName,Class,Model1,Model2,unit,qty,Actualqty,price,"
-          "Amount,Receiver,Supplier,Outfactorydate,Equipcode,Buydate,Accessory,SendStutas,remarks,GoodStutas) values(",
-          {constant("SendStutas", 0), constant("GoodStutas", stock_status::sound)}};
+DocumentForm SalesIssue::issue_form(const Kind& kind, const Members& members) {
+  return stock_form(
+      kind, members, WarehouseColumn::Supplier,
+      "insert into StockBill(Id,ManualId,Receiver,SManager,Salesman,Creator,CreateTime,Type,InOutFlag,Status,"
+      "[Auditor,AuditTime,]PaidAmount,<AdvanceAmount,>CloseAmount,Amount,InvoiceName,InvoiceType,TaxRate,"
+      "DiscountType,DiscountCard,DiscountRate,DeliveryMethod,ClosedTag,CreateFlag,ReferFlag,Referbillid,"
+      "[nowpaybillid|Nowpaybillid],<NowAdvanceBillID,>Summary,Remarks) values(",
+      "update stockbill set ManualId = ,Receiver = ,SManager = ,Salesman = ,Type = ,InOutFlag = ,Status = ,"
+      "[Auditor = ,AuditTime = ,]PaidAmount = ,<AdvanceAmount = ,>CloseAmount = ,Amount = ,InvoiceName = ,"
+      "InvoiceType = ,TaxRate = ,DiscountType = ,DiscountCard = ,DiscountRate = ,DeliveryMethod = ,ClosedTag = ,"
+      "CreateFlag = ,ReferFlag = ,Referbillid = ,Nowpaybillid = ,<NowAdvanceBillID = ,>Summary = ,Remarks = "
+      " where Id=",
+      "insert into StockBillItems(BillId,RowNum,GId,GBarcode,GName,Class,Model1,Model2,unit,qty,Actualqty,price,"
+      "Amount,Receiver,Supplier,Outfactorydate,Equipcode,Buydate,Accessory,SendStutas,remarks,GoodStutas) values(",
+      {constant("SendStutas", 0), constant("GoodStutas", stock_status::sound)});
 }
 
 const Members& clsSalesOutBill::members() const {
-  static const Members table = issue_members<clsSalesOutBill>();
+  static const Members table = issue_members(kind());
   return table;
 }
 
 const Members& clsSalesOutBjkcBill::members() const {
-  static const Members table = issue_members<clsSalesOutBjkcBill>();
+  static const Members table = issue_members(kind());
   return table;
 }
 
-const StockForm& clsSalesOutBill::form() const {
-  static const StockForm form = issue_form(kind(), members());
+const DocumentForm& clsSalesOutBill::form() const {
+  static const DocumentForm form = issue_form(kind(), members());
   return form;
 }
 
-const StockForm& clsSalesOutBjkcBill::form() const {
-  static const StockForm form = issue_form(kind(), members());
+const DocumentForm& clsSalesOutBjkcBill::form() const {
+  static const DocumentForm form = issue_form(kind(), members());
   return form;
 }
 
@@ -132,7 +130,5 @@ void SalesIssue::find_near(const std::string& current, std::string& near, bool n
 
 void SalesIssue::audit_advance() { audit_voucher<clsAdvanceYSBill>(NowAdvanceBillID); }
 void SalesIssue::undo_advance() { undo_voucher<clsAdvanceYSBill>(NowAdvanceBillID); }
-void SalesIssue::post(const StockRow& row, Long& result) { poster().PostStockOut(row, false, false, result); }
-void SalesIssue::undo_post(Long& result) { poster().UndoStockOut(ID, false, false, result); }
 
 }  // namespace brunvik

@@ -35,22 +35,20 @@ class SalesIssue : public SalesDocument {
                  const std::string& sIDQZ = {}) noexcept;
 
   // The stock moves only where bJKC is false; on a purchase receipt it moves where bJKC is true.
-  Long Audit(bool bJKC = false) noexcept { return audit(bJKC); }
-  Long UndoAudit(bool bJKC = false) noexcept { return undo_audit(bJKC); }
+  Long Audit(bool bJKC = false) noexcept { return audit(bJKC ? Stock::stays : Stock::moves); }
+  Long UndoAudit(bool bJKC = false) noexcept { return undo_audit(bJKC ? Stock::stays : Stock::moves); }
 
  protected:
   // An opening balance has no advance.
   std::string NowAdvanceBillID;
   Money AdvanceAmount;
 
-  template <class Leaf>
-  static Members issue_members();
-  static StockForm issue_form(const Kind& kind, const Members& members);
+  static Members issue_members(const Kind& kind);
+  static DocumentForm issue_form(const Kind& kind, const Members& members);
 
   void audit_advance() override;
   void undo_advance() override;
-  void post(const StockRow& row, Long& result) override;
-  void undo_post(Long& result) override;
+  const Operation<StockRow>* stock_operation() const override { return &operation::StockOut; }
   void find_last(std::string& last, std::string_view series) override;
   void find_near(const std::string& current, std::string& near, bool next, std::string_view series) override;
 };
@@ -64,7 +62,7 @@ class clsSalesOutBill final : public SalesIssue {
   const Members& members() const override;
 
  protected:
-  const StockForm& form() const override;
+  const DocumentForm& form() const override;
 };
 
 class clsSalesOutBjkcBill final : public SalesIssue {
@@ -73,7 +71,7 @@ class clsSalesOutBjkcBill final : public SalesIssue {
   const Members& members() const override;
 
  protected:
-  const StockForm& form() const override;
+  const DocumentForm& form() const override;
 };
 
 }  // namespace brunvik

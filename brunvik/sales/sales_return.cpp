@@ -4,12 +4,8 @@
 
 namespace brunvik {
 
-template <class Leaf>
-Members SalesReturn::return_members() {
+Members SalesReturn::return_members(const Kind& kind, MemberGroup audit) {
   using C = SalesReturn;
-  constexpr bool opening = std::is_same_v<Leaf, clsSalesInBjkcBill>;
-  std::vector<Parameter> stock_stays;
-  if (!opening) stock_stays.push_back(optional(in_out("IsBJKC"), false));
   return Members{
       connection<&C::ADOConn>("ADOConn"),
       property<&C::Nowpaybillid>("Nowpaybillid", "NowPayBillId"),
@@ -33,7 +29,7 @@ Members SalesReturn::return_members() {
       property<&C::Taxrate>("Taxrate", "TaxRate"),
       computed<&C::Closedtag>("Closedtag", "ClosedTag"),
       property<&C::Referflag>("Referflag", "ReferFlag"),
-      opening ? property<&C::Referbillid>("Referbillid") : property<&C::Referbillid>("Referbillid", "Referbillid"),
+      kind.opening ? property<&C::Referbillid>("Referbillid") : property<&C::Referbillid>("Referbillid", "Referbillid"),
       property<&C::Summary>("Summary", "Summary"),
       property<&C::Remarks>("Remarks", "Remarks"),
       verb<&C::Save>("Save"),
@@ -41,53 +37,52 @@ Members SalesReturn::return_members() {
       verb<&C::Delete>("Delete"),
       verb<&C::DeleteSalesInBillAndItems>("DeleteSalesInBillAndItems"),
       verb<&C::LoadLast>("LoadLast"),
-      verb<&C::GetLastId>("GetLastId", {out("LastId")}),
+      verb<&C::GetLastId>("GetLastId", out("LastId")),
       verb<&C::LoadNext>("LoadNext"),
       verb<&C::LoadPreviou>("LoadPreviou"),
-      verb<&C::GetNewId>("GetNewId", {out("BID")}),
-      verb<&C::LoadById>("LoadById", {in_out("BID")}),
-      verb<&C::GetNearId>("GetNearId", {in("CurBillID"), out("NearBillID"), optional(in("NextPreviousId"), false)}),
-      verb<&Leaf::Audit>("Audit", stock_stays),
-      verb<&Leaf::UndoAudit>("UndoAudit", stock_stays),
+      verb<&C::GetNewId>("GetNewId", out("BID")),
+      verb<&C::LoadById>("LoadById", in_out("BID")),
+      verb<&C::GetNearId>("GetNearId", in("CurBillID"), out("NearBillID"), optional(in("NextPreviousId"), false)),
+      std::move(audit),
   };
 }
 
-StockForm SalesReturn::return_form(const Kind& kind, const Members& members) {
-  return {kind,
-          members,
-          WarehouseColumn::Receiver,
-          "insert into StockBill(Id,ManualId,Supplier,RManager,Salesman,Creator,CreateTime,Type,InOutFlag,Status,"
-          "[Auditor,AuditTime,]PaidAmount,CloseAmount,Amount,InvoiceName,InvoiceType,TaxRate,ClosedTag,ReferFlag,"
-          "<Referbillid,>NowPayBillId,Summary,Remarks) values(",
-          "update stockbill set ManualId = ,Supplier = ,RManager = ,Salesman = ,Type = ,InOutFlag = ,Status = ,"
-          "[Auditor = ,AuditTime = ,]PaidAmount = ,CloseAmount = ,Amount = ,InvoiceName = ,InvoiceType = ,TaxRate = ,"
-          "ClosedTag = ,ReferFlag = ,<Referbillid = ,>NowPayBillId = ,Summary = ,Remarks =  where Id=",
-          "insert into StockBillItems(BillId,RowNum,GId,GBarcode,GName,Class,Model1,Model2,unit,qty,ActualQty,price,"
-          "Amount,Receiver,Outfactorydate,Equipcode,Buydate,Accessory,remarks,GoodStutas) values(",
-          {constant("GoodStutas", stock_status::sound)}};
+DocumentForm SalesReturn::return_form(const Kind& kind, const Members& members) {
+  return stock_form(
+      kind, members, WarehouseColumn::Receiver,
+      "insert into StockBill(Id,ManualId,Supplier,RManager,Salesman,Creator,CreateTime,Type,InOutFlag,Status,"
+      "[Auditor,AuditTime,]PaidAmount,CloseAmount,Amount,InvoiceName,InvoiceType,TaxRate,ClosedTag,ReferFlag,"
+      "<Referbillid,>NowPayBillId,Summary,Remarks) values(",
+      "update stockbill set ManualId = ,Supplier = ,RManager = ,Salesman = ,Type = ,InOutFlag = ,Status = ,"
+      "[Auditor = ,AuditTime = ,]PaidAmount = ,CloseAmount = ,Amount = ,InvoiceName = ,InvoiceType = ,TaxRate = ,"
+      "ClosedTag = ,ReferFlag = ,<Referbillid = ,>NowPayBillId = ,Summary = ,Remarks =  where Id=",
+      "insert into StockBillItems(BillId,RowNum,GId,GBarcode,GName,Class,Model1,Model2,unit,qty,ActualQty,price,"
+      "Amount,Receiver,Outfactorydate,Equipcode,Buydate,Accessory,remarks,GoodStutas) values(",
+      {constant("GoodStutas", stock_status::sound)});
 }
 
 const Members& clsSalesInBill::members() const {
-  static const Members table = return_members<clsSalesInBill>();
+  using C = clsSalesInBill;
+  const Parameter stock_stays = optional(in_out("IsBJKC"), false);
+  static const Members table =
+      return_members(kind(), {verb<&C::Audit>("Audit", stock_stays), verb<&C::UndoAudit>("UndoAudit", stock_stays)});
   return table;
 }
 
 const Members& clsSalesInBjkcBill::members() const {
-  static const Members table = return_members<clsSalesInBjkcBill>();
+  using C = clsSalesInBjkcBill;
+  static const Members table = return_members(kind(), {verb<&C::Audit>("Audit"), verb<&C::UndoAudit>("UndoAudit")});
   return table;
 }
 
-const StockForm& clsSalesInBill::form() const {
-  static const StockForm form = return_form(kind(), members());
+const DocumentForm& clsSalesInBill::form() const {
+  static const DocumentForm form = return_form(kind(), members());
   return form;
 }
 
-const StockForm& clsSalesInBjkcBill::form() const {
-  static const StockForm form = return_form(kind(), members());
+const DocumentForm& clsSalesInBjkcBill::form() const {
+  static const DocumentForm form = return_form(kind(), members());
   return form;
 }
-
-void SalesReturn::post(const StockRow& row, Long& result) { poster().PostSalesReturn(row, result); }
-void SalesReturn::undo_post(Long& result) { poster().UndoSalesReturn(ID, result); }
 
 }  // namespace brunvik

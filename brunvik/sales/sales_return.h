@@ -21,37 +21,36 @@ class SalesReturn : public SalesDocument {
   Long DeleteSalesInBillAndItems() noexcept { return Delete(); }
 
  protected:
-  template <class Leaf>
-  static Members return_members();
-  static StockForm return_form(const Kind& kind, const Members& members);
+  // `audit` has the verbs of the audit, which differ in their arguments.
+  static Members return_members(const Kind& kind, MemberGroup audit);
+  static DocumentForm return_form(const Kind& kind, const Members& members);
 
-  void post(const StockRow& row, Long& result) override;
-  void undo_post(Long& result) override;
+  const Operation<StockRow>* stock_operation() const override { return &operation::SalesReturn; }
 };
 
 class clsSalesInBill final : public SalesReturn {
  public:
   // The stock moves only where IsBJKC is false.
-  Long Audit(bool IsBJKC = false) noexcept { return audit(IsBJKC); }
-  Long UndoAudit(bool IsBJKC = false) noexcept { return undo_audit(IsBJKC); }
+  Long Audit(bool IsBJKC = false) noexcept { return audit(IsBJKC ? Stock::stays : Stock::moves); }
+  Long UndoAudit(bool IsBJKC = false) noexcept { return undo_audit(IsBJKC ? Stock::stays : Stock::moves); }
 
   const Kind& kind() const override { return kind::clsSalesInBill; }
   const Members& members() const override;
 
  protected:
-  const StockForm& form() const override;
+  const DocumentForm& form() const override;
 };
 
 class clsSalesInBjkcBill final : public SalesReturn {
  public:
-  Long Audit() noexcept { return audit(true); }
-  Long UndoAudit() noexcept { return undo_audit(true); }
+  Long Audit() noexcept { return audit(Stock::stays); }
+  Long UndoAudit() noexcept { return undo_audit(Stock::stays); }
 
   const Kind& kind() const override { return kind::clsSalesInBjkcBill; }
   const Members& members() const override;
 
  protected:
-  const StockForm& form() const override;
+  const DocumentForm& form() const override;
 };
 
 }  // namespace brunvik

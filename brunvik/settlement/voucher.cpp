@@ -31,7 +31,7 @@ std::vector<ColumnSource> Voucher::update_sources(const Kind& kind) {
 void Voucher::save_header(Saving saving) {
   const bool draft = saving == Saving::draft;
   worker(draft ? form().save_draft_tag : form().save_tag, [&] {
-    if (ID.empty()) throw Stop{-1};
+    if (ID.empty()) throw Stop{result_without_id};
     const bool stored = !execute(sql("select * from {raw} where Id={}", kind().header_table(), ID)).at_end();
     Long status = status::draft;
     // Without the audit of accounts a voucher is born audited, though it has settled nothing: only Audite settles.

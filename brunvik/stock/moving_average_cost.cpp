@@ -62,18 +62,20 @@ void write_average(const GoodsKey& key, Money average) {
   ExecuteNonQuerySql(statement);
 }
 
-// Runs a procedure that gives a cost; after an error the error's number stands in for the cost.
+// What stands in for a cost that couldn't be worked out: the number of the error, as an amount.
+Money cost_of_failure(Long number) { return Money::from_whole(number); }
+
 template <class Body>
-Money cost_or_error_number(std::string_view tag, Body&& body) {
+Money trapped_cost(std::string_view tag, Body&& body) {
   Money cost;
   const Long failure = trap(tag, [&] { cost = body(); });
-  return failure == 0 ? cost : Money::from_whole(failure);
+  return failure == 0 ? cost : cost_of_failure(failure);
 }
 
 // Both procedures: `average_of` works the new average out of the position.
 template <class Average>
 Money change_average(std::string_view tag, const GoodsKey& key, Average&& average_of) {
-  return cost_or_error_number(tag, [&]() -> Money {
+  return trapped_cost(tag, [&]() -> Money {
     const auto position = stock_position(key);
     if (!position) return {};
     const Money average = average_of(*position);
@@ -117,7 +119,7 @@ Money UndoAuditUpdateAverageCost(std::string_view GoodsId, std::string_view Unit
 
 Money GetAverageCost(std::string_view GoodsId, std::string_view Class, std::string_view Model1,
                      std::string_view Model2) {
-  return cost_or_error_number("GetAverageCost():", [&]() -> Money {
+  return trapped_cost("GetAverageCost():", [&]() -> Money {
     const auto set = ado::execute(
         session().ADOConn, sql("select AverageCost from goods  where id={} and class={} and model1={} and model2={}",
                                GoodsId, Class, Model1, Model2));
@@ -133,7 +135,7 @@ void UpdateBillItemCost(std::string_view BillId, Integer RowNum, Money Cost, Mon
 }
 
 Money CalcBillCost(const RowCollection& Rows, Integer Type) {
-  return cost_or_error_number("CalcBillCost():", [&] {
+  return trapped_cost("CalcBillCost():", [&] {
     const bool count_report = Type == bill_type::overage_report || Type == bill_type::loss_report;
     Money sum;
     for (std::size_t position = 1; position <= Rows.Count(); ++position) {

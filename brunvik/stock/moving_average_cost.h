@@ -13,6 +13,12 @@ namespace brunvik {
 
 inline namespace SqlOPT_Function {
 
+// No cost to spread: the CostDelta of goods that come or go at a price.
+inline constexpr Money no_cost_delta = Money::from_ten_thousandths(-1 * Money::scale);
+
+// What CalcBillCost is told for any document but the count reports.
+inline constexpr Integer any_stock_document = -1;
+
 // Takes a quantity of goods into the average and gives the new average.
 //
 // With the stored average A, the stock Q of the key in base units (all warehouses, every stock status), and n the

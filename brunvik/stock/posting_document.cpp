@@ -3,14 +3,8 @@
 #include "brunvik/ado/errors.h"
 #include "brunvik/foundation/Brunvik_Variable.h"
 #include "brunvik/foundation/SqlOPT_Function.h"
-#include "brunvik/foundation/sql_text.h"
-#include "brunvik/stock/moving_average_cost.h"
 
 namespace brunvik {
-
-void PostingDocument::mark(Long status) {
-  execute(sql("update stockbill set Status={},Auditor={},AuditTime={} where id={}", status, Auditor, Audittime, ID));
-}
 
 Money PostingDocument::cost_at_price(const StockRow& row) {
   return Money::from_double(row.price.to_double() * static_cast<double>(row.Qty));
@@ -26,13 +20,13 @@ void PostingDocument::write_row_cost(StockRow& row, Money cost) {
   UpdateBillItemCost(ID, row.Rownum, cost, Money());
 }
 
-Money PostingDocument::write_bill_cost(Integer calculation_type) {
-  const Money cost = CalcBillCost(rows(), calculation_type);
+Money PostingDocument::write_bill_cost(Integer rows_of) {
+  const Money cost = CalcBillCost(rows(), rows_of);
   UpdateBillCost(ID, *kind().code, cost);
   return cost;
 }
 
-StockPoster& PostingDocument::poster() {
+const StockPoster& PostingDocument::poster() {
   if (!session().StockPoster) ado::raise(ado::error::object_not_set);
   return *session().StockPoster;
 }

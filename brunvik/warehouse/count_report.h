@@ -33,9 +33,6 @@ class CountReport : public WarehouseDocument {
  protected:
   RowCollection& rows() override { return colBillItems; }
 
-  virtual void post(const StockRow& row, Long& result) = 0;
-  virtual void undo_post(Long& result) = 0;
-
  private:
   // Moves the report that is stored to the other status and costs its rows. Empties ID where there is no such report,
   // and where it has that status already.
@@ -51,9 +48,8 @@ class clsReportOfOverflowBill final : public CountReport {
   const Members& members() const override;
 
  protected:
-  const StockForm& form() const override;
-  void post(const StockRow& row, Long& result) override;
-  void undo_post(Long& result) override;
+  const DocumentForm& form() const override;
+  const Operation<StockRow>* stock_operation() const override { return &operation::Overflow; }
 };
 
 class clsReportOfLossesBill final : public CountReport {
@@ -67,9 +63,8 @@ class clsReportOfLossesBill final : public CountReport {
   const Members& members() const override;
 
  protected:
-  const StockForm& form() const override;
-  void post(const StockRow& row, Long& result) override;
-  void undo_post(Long& result) override;
+  const DocumentForm& form() const override;
+  const Operation<StockRow>* stock_operation() const override { return &operation::Loss; }
 };
 
 }  // namespace brunvik

@@ -6,50 +6,49 @@
 namespace brunvik {
 
 const Members& clsOthersInBill::members() const {
-  static const Members table =
-      warehouse_members<clsOthersInBill>(property<&clsOthersInBill::RManager>("RManager", "RManager"));
+  using C = clsOthersInBill;
+  static const Members table = warehouse_members<C>(
+      {.person = property<&C::RManager>("RManager", "RManager"),
+       .money = {property<&C::Paidamount>("Paidamount"), property<&C::BillCost>("BillCost", "BillCost")},
+       .behind_saving = {verb<&C::GetBill>("GetBill")},
+       .behind_number = {near_id<C>()},
+       .audit = {verb<&C::Audit>("Audit"), verb<&C::UndoAudit>("UndoAudit")}});
   return table;
 }
 
-const StockForm& clsOthersInBill::form() const {
-  static const StockForm form = warehouse_form(
+const DocumentForm& clsOthersInBill::form() const {
+  static const DocumentForm form = warehouse_form(
       kind(), members(), "Rmanager", WarehouseColumn::Receiver,
       "insert into StockBillItems(BillId,RowNum,GId,GBarcode,GName,Class,Model1,Model2,unit,qty,ActualQty,price,Amount,"
       "Receiver,Equipcode,remarks,GoodStutas) values(");
   return form;
 }
 
-void clsOthersInBill::post(const StockRow& row, Long& result) { poster().PostStockIn(row, false, result); }
-void clsOthersInBill::undo_post(Long& result) { poster().UndoStockIn(ID, "", true, false, result); }
-
 const Members& clsOthersOutBill::members() const {
+  using C = clsOthersOutBill;
   static const Members table =
-      warehouse_members<clsOthersOutBill>(property<&clsOthersOutBill::SManager>("SManager", "SManager"));
+      warehouse_members<C>({.person = property<&C::SManager>("SManager", "SManager"),
+                            .money = {property<&C::BillCost>("BillCost", "BillCost")},
+                            .behind_saving = {verb<&C::GetBill>("GetBill")},
+                            .behind_number = {near_id<C>()},
+                            .audit = {verb<&C::Audit>("Audit"), verb<&C::UndoAudit>("UndoAudit")}});
   return table;
 }
 
-const StockForm& clsOthersOutBill::form() const {
-  static const StockForm form = warehouse_form(
+const DocumentForm& clsOthersOutBill::form() const {
+  static const DocumentForm form = warehouse_form(
       kind(), members(), "SManager", WarehouseColumn::Supplier,
       "insert into StockBillItems(BillId,RowNum,GId,GBarcode,GName,Class,Model1,Model2,unit,qty,ActualQty,price,Amount,"
       "Supplier,remarks,GoodStutas) values(");
   return form;
 }
 
-void clsOthersOutBill::post(const StockRow& row, Long& result) { poster().PostStockOut(row, false, false, result); }
-void clsOthersOutBill::undo_post(Long& result) { poster().UndoStockOut(ID, false, false, result); }
-
 Long OtherStockDocument::Audit() noexcept {
   return trap([&] {
     if (ID.empty()) return;
     mark(status::audited);
     prepare_rows();
-    for_each_stock_row([&](StockRow& row) {
-      write_cost_at_price(row);
-      Long result = 0;
-      post(row, result);
-      stop_unless_done(result);
-    });
+    cost_and_post(Stock::moves, cost_at_price);
     BillCost = write_bill_cost();
     read_rows();
   });
@@ -60,11 +59,9 @@ Long OtherStockDocument::UndoAudit() noexcept {
     if (ID.empty()) return;
     mark(status::saved);
     prepare_rows();
-    for_each_stock_row([&](StockRow& row) { write_cost_at_price(row); });
+    cost_rows(cost_at_price);
     BillCost = write_bill_cost();
-    Long result = 0;
-    undo_post(result);
-    stop_unless_done(result);
+    undo_stock();
   });
 }
 

@@ -27,8 +27,6 @@ class OtherStockDocument : public WarehouseDocument {
 
   // In front of the rows of an audit and of its undo.
   virtual void prepare_rows() = 0;
-  virtual void post(const StockRow& row, Long& result) = 0;
-  virtual void undo_post(Long& result) = 0;
 };
 
 // Other receipt. Its audit takes the rows as the object holds them.
@@ -41,10 +39,9 @@ class clsOthersInBill final : public OtherStockDocument {
   const Members& members() const override;
 
  protected:
-  const StockForm& form() const override;
+  const DocumentForm& form() const override;
   void prepare_rows() override {}
-  void post(const StockRow& row, Long& result) override;
-  void undo_post(Long& result) override;
+  const Operation<StockRow>* stock_operation() const override { return &operation::StockIn; }
 };
 
 // Other issue. Its audit reads the rows first: a row that was added and not saved doesn't take part.
@@ -56,10 +53,9 @@ class clsOthersOutBill final : public OtherStockDocument {
   const Members& members() const override;
 
  protected:
-  const StockForm& form() const override;
+  const DocumentForm& form() const override;
   void prepare_rows() override { read_rows(); }
-  void post(const StockRow& row, Long& result) override;
-  void undo_post(Long& result) override;
+  const Operation<StockRow>* stock_operation() const override { return &operation::StockOut; }
 };
 
 }  // namespace brunvik

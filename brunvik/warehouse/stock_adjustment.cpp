@@ -7,12 +7,17 @@
 namespace brunvik {
 
 const Members& clsTZBill::members() const {
-  static const Members table = warehouse_members<clsTZBill>(property<&clsTZBill::RManager>("RManager", "RManager"));
+  using C = clsTZBill;
+  static const Members table = warehouse_members<C>(
+      {.person = property<&C::RManager>("RManager", "RManager"),
+       .money = {property<&C::Paidamount>("Paidamount"), property<&C::BillCost>("BillCost", "BillCost")},
+       .behind_saving = {verb<&C::GetBill>("GetBill")},
+       .audit = {verb<&C::Audit>("Audit"), verb<&C::UndoAudit>("UndoAudit")}});
   return table;
 }
 
-const StockForm& clsTZBill::form() const {
-  static const StockForm form = warehouse_form(
+const DocumentForm& clsTZBill::form() const {
+  static const DocumentForm form = warehouse_form(
       kind(), members(), "Rmanager", WarehouseColumn::Receiver,
       "insert into StockBillItems(BillId,RowNum,GId,GBarcode,GName,Class,Model1,Model2,unit,qty,ActualQty,price,Amount,"
       "Receiver,Equipcode,remarks) values(",

@@ -24,7 +24,7 @@ class clsTZBill final : public WarehouseDocument {
   const Members& members() const override;
 
  protected:
-  const StockForm& form() const override;
+  const DocumentForm& form() const override;
   RowCollection& rows() override { return colBillItems; }
   void find_last(std::string& last, std::string_view series) override;
 };

@@ -13,11 +13,9 @@ class WarehouseDocument : public PostingDocument {
  protected:
   // The header's statements around the column of the responsible person, and the document's row statement. ActualQty is
   // written from the row's Qty: on these documents the two are the same.
-  static StockForm warehouse_form(const Kind& kind, const Members& members, std::string_view person_column,
-                                  WarehouseColumn warehouse, std::string_view insert_row,
-                                  std::vector<ColumnSource> row_sources = {constant("GoodStutas", 0)});
-
-  void write_cost_at_price(StockRow& row) { write_row_cost(row, cost_at_price(row)); }
+  static DocumentForm warehouse_form(const Kind& kind, const Members& members, std::string_view person_column,
+                                     WarehouseColumn warehouse, std::string_view insert_row,
+                                     std::vector<ColumnSource> row_sources = {constant("GoodStutas", 0)});
 };
 
 }  // namespace brunvik
