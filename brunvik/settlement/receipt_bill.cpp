@@ -5,6 +5,7 @@
 #include "brunvik/foundation/ConnOPT_Function.h"
 #include "brunvik/foundation/error_trap.h"
 #include "brunvik/foundation/sql_text.h"
+#include "brunvik/foundation/text.h"
 #include "brunvik/settlement/rp_voucher_members.h"
 
 namespace brunvik {
@@ -35,15 +36,17 @@ std::string clsReceiptBill::select_open_amount(std::string_view table, const std
              table, sum_of_vouchers(bill), table, bill, table);
 }
 
-// Both deletes take the session's road, in upper case, and the number that they compare ends in a blank.
+// Both deletes take the session's road, in upper case, and the number that they compare ends in a blank; its
+// apostrophes are doubled, so that no number reaches the rows of another voucher.
 void clsReceiptBill::save_rows() {
+  const std::string number = replaced(ID, "'", "''");
   worker(" SaveRPBItems(): ", [&] {
-    std::string remove = sql("delete from RPBItems where bid= '{raw} '", ID);
+    std::string remove = sql("delete from RPBItems where bid= '{raw} '", number);
     ExecuteSql(remove);
     insert_rows(colRPBItems, payment_insert(), " AddRPBItems(): ");
   });
   worker(" SaveRPBRPItems(): ", [&] {
-    std::string remove = sql("delete from RPBRPItems where bid= '{raw} '", ID);
+    std::string remove = sql("delete from RPBRPItems where bid= '{raw} '", number);
     ExecuteSql(remove);
     insert_rows(colRPBRPItems, settled_insert(), " AddRPBRPItems(): ");
   });
