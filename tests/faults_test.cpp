@@ -12,8 +12,8 @@
 #include "brunvik/automation/automation.h"
 #include "tests/support/apartment.h"
 #include "tests/support/books.h"
-#include "tests/support/fault_books.h"
-#include "tests/support/fault_verbs.h"
+#include "tests/support/faults/books.h"
+#include "tests/support/faults/document.h"
 #include "tests/support/rehearsed_connection.h"
 
 namespace brunvik::test {
@@ -62,7 +62,7 @@ class FaultRuns : public ::testing::Test {
     {
       const Session loading(books_);
       automation::put(*object, "ADOConn", ado::ObjectReference(books_));
-      std::vector<Value> bill{numbered(verb.class_name).bill()};
+      std::vector<Value> bill{rehearsed_document(verb.class_name).bill()};
       EXPECT_EQ(automation::call(*object, "LoadById", bill), Value(Long{0}));
     }
     if (!verb.number.empty()) automation::put(*object, "ID", verb.number);
@@ -137,7 +137,7 @@ TEST_P(Faults, At_each_statement_leave_what_was_done_and_end_or_go_on_as_the_doc
 }
 
 TEST_F(FaultsOfAConnection, That_is_the_bills_end_every_verb_at_its_first_statement) {
-  for (const Verb& verb : fault_verbs()) {
+  for (const Verb& verb : rehearsed_verbs()) {
     SCOPED_TRACE(name_of(verb));
     const Step& first = verb.steps.front();
     if (!first.begins.starts_with("bill|")) continue;  // it begins on the session's road
@@ -153,7 +153,7 @@ TEST_F(FaultsOfAConnection, That_is_the_bills_end_every_verb_at_its_first_statem
 }
 
 TEST_F(FaultsOfAConnection, That_is_the_sessions_touch_no_verb_that_stays_on_the_bills_road) {
-  for (const Verb& verb : fault_verbs()) {
+  for (const Verb& verb : rehearsed_verbs()) {
     SCOPED_TRACE(name_of(verb));
     const bool on_the_bills_road = std::all_of(verb.steps.begin(), verb.steps.end(),
                                                [](const Step& step) { return step.begins.starts_with("bill|"); });
@@ -169,7 +169,7 @@ TEST_F(FaultsOfAConnection, That_is_the_sessions_touch_no_verb_that_stays_on_the
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Of, Faults, ::testing::ValuesIn(fault_verbs()),
+INSTANTIATE_TEST_SUITE_P(Of, Faults, ::testing::ValuesIn(rehearsed_verbs()),
                          [](const auto& verb) { return name_of(verb.param); });
 
 // What the books hold after a failure in the middle of a verb.
@@ -181,7 +181,7 @@ class FaultsInTheBooks : public ::testing::Test {
   Long verb(const char* class_name, const char* verb, std::size_t fails_at, const char* number = nullptr) {
     const auto object = automation::create(class_name);
     automation::put(*object, "ADOConn", ado::ObjectReference(bill));
-    std::vector<Value> arguments{numbered(class_name).bill()};
+    std::vector<Value> arguments{rehearsed_document(class_name).bill()};
     automation::call(*object, "LoadById", arguments);
     if (number) automation::put(*object, "ID", number);
     rehearsal->statements.clear();
@@ -238,15 +238,24 @@ TEST_F(FaultsInTheBooks, A_last_number_that_cannot_be_read_is_empty) {
   }
 }
 
-TEST(FaultTable, Has_every_verb_of_every_class) {
+TEST(RehearsedDocuments, Have_every_class_with_every_verb) {
   std::set<std::string> rehearsed{"InitBrunvikVariable.InitClase_PublicVariable"};  // it sends nothing
-  for (const Verb& verb : fault_verbs()) rehearsed.insert(verb.class_name + "." + verb.verb);
+  for (const Verb& verb : rehearsed_verbs()) rehearsed.insert(verb.class_name + "." + verb.verb);
   for (const automation::Class& each : automation::classes()) {
     for (const Member& member : each.create()->members()) {
       const std::string name = std::string(each.name) + "." + std::string(member.name());
-      EXPECT_TRUE(member.kind() != MemberKind::verb || rehearsed.contains(name)) << name;
+      EXPECT_TRUE(member.kind() != MemberKind::verb || rehearsed.contains(name))
+          << name << " is not rehearsed: its steps belong into its family's file in tests/support/faults";
     }
   }
+}
+
+TEST(RehearsedDocuments, Are_told_once_each) {
+  std::set<std::string> classes, runs;
+  for (const Document& document : rehearsed_documents()) {
+    EXPECT_TRUE(classes.insert(document.class_name).second) << document.class_name;
+  }
+  for (const Verb& verb : rehearsed_verbs()) EXPECT_TRUE(runs.insert(name_of(verb)).second) << name_of(verb);
 }
 
 }  // namespace

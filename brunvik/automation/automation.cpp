@@ -1,35 +1,19 @@
 #include "brunvik/automation/automation.h"
 
+#include <algorithm>
+#include <array>
+
 #include "brunvik/ado/errors.h"
 #include "brunvik/ado/names.h"
-#include "brunvik/billframe/stock_row.h"
+#include "brunvik/automation/family.h"
 #include "brunvik/foundation/goods_record.h"
-#include "brunvik/purchasing/purchase_receipt.h"
-#include "brunvik/purchasing/purchase_return.h"
-#include "brunvik/sales/sales_issue.h"
-#include "brunvik/sales/sales_return.h"
-#include "brunvik/settlement/advance.h"
-#include "brunvik/settlement/pay_bill.h"
-#include "brunvik/settlement/receipt_bill.h"
 #include "brunvik/stock/InitBrunvikVariable.h"
-#include "brunvik/warehouse/count_report.h"
-#include "brunvik/warehouse/other_stock_document.h"
-#include "brunvik/warehouse/stock_adjustment.h"
 
 namespace brunvik::automation {
 
 namespace {
 
-template <class Made>
-std::shared_ptr<PublicObject> make() {
-  return std::make_shared<Made>();
-}
-
-template <class Document>
-Class document() {
-  const Kind& kind = Document().kind();
-  return {kind.class_name, &kind, make<Document>};
-}
+constexpr std::array families{purchasing, sales, warehouse, settlement};
 
 template <class Named>
 const Named& named(std::span<const Named> all, std::string_view name, Long error) {
@@ -39,39 +23,36 @@ const Named& named(std::span<const Named> all, std::string_view name, Long error
   ado::raise(error);
 }
 
-template <class Row>
-std::shared_ptr<RowCollection> make_rows() {
-  return std::make_shared<Collection<Row>>();
+// Where the catalogue has the class; what is no document comes first.
+std::ptrdiff_t place_in_catalogue(const Class& listed) {
+  if (!listed.kind) return -1;
+  const auto kinds = kind::all();
+  return std::find(kinds.begin(), kinds.end(), listed.kind) - kinds.begin();
 }
 
-struct RecordClass {
-  std::string_view name;
-  std::shared_ptr<RowCollection> (*create_rows)();
-};
+std::span<const RecordClass> record_classes() {
+  static const std::vector<RecordClass> records = [] {
+    std::vector<RecordClass> all{record<GoodsRecord>("GoodsRecord")};
+    for (const auto family : families) {
+      for (const RecordClass& each : family().records) all.push_back(each);
+    }
+    return all;
+  }();
+  return records;
+}
 
 }  // namespace
 
 std::span<const Class> classes() {
-  static const std::vector<Class> classes{
-      {"InitBrunvikVariable", nullptr, make<InitBrunvikVariable>},
-      document<clsPurchaseInBill>(),
-      document<clsPurchaseOutBill>(),
-      document<clsSalesInBill>(),
-      document<clsSalesOutBill>(),
-      document<clsOthersInBill>(),
-      document<clsOthersOutBill>(),
-      document<clsReportOfOverflowBill>(),
-      document<clsReportOfLossesBill>(),
-      document<clsTZBill>(),
-      document<clsPurchaseInBjkcBill>(),
-      document<clsPurchaseOutBjkcBill>(),
-      document<clsSalesOutBjkcBill>(),
-      document<clsSalesInBjkcBill>(),
-      document<clsPayBill>(),
-      document<clsReceiptBill>(),
-      document<clsAdvanceBill>(),
-      document<clsAdvanceYSBill>(),
-  };
+  static const std::vector<Class> classes = [] {
+    std::vector<Class> all{{"InitBrunvikVariable", nullptr, make<InitBrunvikVariable>}};
+    for (const auto family : families) {
+      for (const Class& each : family().classes) all.push_back(each);
+    }
+    std::sort(all.begin(), all.end(),
+              [](const Class& a, const Class& b) { return place_in_catalogue(a) < place_in_catalogue(b); });
+    return all;
+  }();
   return classes;
 }
 
@@ -104,12 +85,7 @@ Value call_procedure(std::string_view name, std::vector<Value>& arguments) {
 }
 
 std::shared_ptr<RowCollection> create_rows(std::string_view record_class) {
-  static constexpr std::array record_classes{
-      RecordClass{"StockRow", make_rows<StockRow>},       RecordClass{"CountRow", make_rows<CountRow>},
-      RecordClass{"PaymentRow", make_rows<PaymentRow>},   RecordClass{"SettledRow", make_rows<SettledRow>},
-      RecordClass{"GoodsRecord", make_rows<GoodsRecord>},
-  };
-  return named(std::span<const RecordClass>(record_classes), record_class, ado::error::no_such_class).create_rows();
+  return named(record_classes(), record_class, ado::error::no_such_class).create_rows();
 }
 
 }  // namespace brunvik::automation

@@ -47,7 +47,7 @@ std::span<const Procedure> procedures();
 const Procedure& procedure_named(std::string_view name);
 Value call_procedure(std::string_view name, std::vector<Value>& arguments);
 
-// An empty collection of rows of a record class: StockRow, CountRow, PaymentRow, SettledRow, GoodsRecord.
+// An empty collection of rows of a record class: StockRow, CountRow, PaymentRow and so on, or GoodsRecord.
 std::shared_ptr<RowCollection> create_rows(std::string_view record_class);
 
 }  // namespace brunvik::automation

@@ -1,0 +1,13 @@
+#include "brunvik/automation/family.h"
+#include "brunvik/sales/sales_issue.h"
+#include "brunvik/sales/sales_return.h"
+
+namespace brunvik::automation {
+
+Family sales() {
+  return {{document<clsSalesInBill>(), document<clsSalesOutBill>(), document<clsSalesOutBjkcBill>(),
+           document<clsSalesInBjkcBill>()},
+          {}};
+}
+
+}  // namespace brunvik::automation

@@ -1,0 +1,15 @@
+#include "brunvik/automation/family.h"
+#include "brunvik/billframe/stock_row.h"
+#include "brunvik/warehouse/count_report.h"
+#include "brunvik/warehouse/other_stock_document.h"
+#include "brunvik/warehouse/stock_adjustment.h"
+
+namespace brunvik::automation {
+
+Family warehouse() {
+  return {{document<clsOthersInBill>(), document<clsOthersOutBill>(), document<clsReportOfOverflowBill>(),
+           document<clsReportOfLossesBill>(), document<clsTZBill>()},
+          {record<StockRow>("StockRow"), record<CountRow>("CountRow")}};
+}
+
+}  // namespace brunvik::automation

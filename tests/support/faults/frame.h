@@ -1,0 +1,46 @@
+// The verbs of the frame as every document has them: saving, reading, deleting, walking. A document tells only what it
+// does in another way and what is its own.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "tests/support/faults/document.h"
+
+namespace brunvik::test {
+
+// The statements that the frame's verbs are made of.
+struct Frame {
+  Step header_read, header_added, header_updated, header_removed;
+  // Where a document reads several row sets, a step for each.
+  Steps rows_read;
+  Steps rows_removed;
+  // Two rows of each set.
+  Steps rows_added;
+  // The highest number, and the neighbours of one.
+  Step last, next, previous;
+};
+
+// Over a header table and a table of rows, as most documents word it.
+Frame frame_over(const std::string& header, const std::string& rows);
+
+// Over StockBill and StockBillItems.
+Frame stock_frame();
+
+// The frame's verbs that the class publishes, without those that are in `own`; `own` comes first. A verb that takes a
+// series of numbers is given the prefix.
+Verbs with_frame(const std::string& class_name, const std::string& prefix, const Frame& frame, Verbs own);
+
+// What a document in StockBill has of its own beside its verbs.
+struct Stock {
+  // Where the catalogue has none.
+  std::string prefix = {};
+  // The prefix of the voucher and of the advance at its side; empty for none.
+  std::string voucher = {}, advance = {};
+  Frame frame = stock_frame();
+};
+
+// A document in StockBill: its three bills, its own verbs, and the frame's.
+Document stock_document(const std::string& class_name, Verbs own, const Stock& stock = {});
+
+}  // namespace brunvik::test
