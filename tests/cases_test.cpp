@@ -40,21 +40,45 @@ namespace files = std::filesystem;
 
 const files::path case_folder = BRUNVIK_CASES;
 
+// Laying the tables takes longer than most cases do. So they are laid once for all cases of a process: in a file, of
+// which each case gets a copy, and in a memory, of which a case gets the use until what it did is rolled back.
+ado::ConnectionReference lay_tables(ado::ConnectionReference database) {
+  for (const std::string& statement : schema::statements(schema::Engine::sqlite)) database->Execute(statement);
+  return database;
+}
+
+ado::ConnectionReference use_of_a_memory() {
+  static const ado::ConnectionReference memory = lay_tables(sqlite::open(":memory:"));
+  memory->Execute("begin");
+  return {memory.get(), [](ado::Connection* used) { used->Execute("rollback"); }};
+}
+
+ado::ConnectionReference copy_of_a_file(const Folder& folder) {
+  static const Folder laid;
+  static const std::string original = [] {
+    std::string path = laid.file("books.db");
+    lay_tables(sqlite::open(path, {.synchronous = sqlite::Synchronous::normal, .create = true}));
+    return path;
+  }();
+  files::copy_file(original, folder.file("books.db"));
+  return sqlite::open(folder.file("books.db"), {.synchronous = sqlite::Synchronous::normal});
+}
+
 struct Engine {
   std::string name;
-  schema::Engine tables;
-  // On files, where it needs any, in a folder that goes with the case.
-  std::function<ado::ConnectionReference(const Folder& folder)> open;
+  // A database with the books' tables and nothing in them, on files, where it needs any, in a folder that goes with the
+  // case. One for a case that opens a transaction of its own is in none.
+  std::function<ado::ConnectionReference(const Folder& folder, bool has_transactions)> open;
 };
 
 // The engines that the cases are run on.
 const std::vector<Engine>& engines() {
   static const std::vector<Engine> list{
-      {"sqlite_memory", schema::Engine::sqlite, [](const Folder&) { return sqlite::open(":memory:"); }},
-      {"sqlite_file", schema::Engine::sqlite,
-       [](const Folder& folder) {
-         return sqlite::open(folder.file("books.db"), {.synchronous = sqlite::Synchronous::normal, .create = true});
+      {"sqlite_memory",
+       [](const Folder&, bool has_transactions) {
+         return has_transactions ? lay_tables(sqlite::open(":memory:")) : use_of_a_memory();
        }},
+      {"sqlite_file", [](const Folder& folder, bool) { return copy_of_a_file(folder); }},
   };
   return list;
 }
@@ -105,6 +129,11 @@ Case read_case(const files::path& path) {
     }
   }
   return read;
+}
+
+bool has_transactions(const Case& told) {
+  return std::any_of(told.steps.begin(), told.steps.end(),
+                     [](const Step& step) { return step.sent.find("\"transaction\"") != std::string::npos; });
 }
 
 bool same_text(const std::string& expected, const std::string& actual) {
@@ -166,10 +195,10 @@ TEST_P(Cases, come_out_as_told) {
   const auto& [name, path, dialect, engine] = GetParam();
   const test::FixedClock clock("2024-03-05 10:00:00");
   const Folder folder;
-  const ado::ConnectionReference database = engine->open(folder);
-  for (const std::string& statement : schema::statements(engine->tables)) database->Execute(statement);
+  const Case told = read_case(path);
+  const ado::ConnectionReference database = engine->open(folder, has_transactions(told));
   host::Interpreter interpreter(database, {.dialect = dialect->session_name, .operator_id = "u1", .trace = true});
-  for (const Step& step : read_case(path).steps) {
+  for (const Step& step : told.steps) {
     const json answer = json::parse(interpreter.answer(step.sent));
     if (const auto found = difference(step, answer)) {
       ADD_FAILURE_AT(path.c_str(), static_cast<int>(step.line))
