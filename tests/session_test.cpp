@@ -33,6 +33,22 @@ TEST(InitBrunvikVariableTest, Nothing_happens_at_assignment) {
   EXPECT_EQ(session().StockPoster, nullptr);
 }
 
+TEST(InitBrunvikVariableTest, Tells_of_a_dialect_that_is_neither_of_the_two_and_takes_it_all_the_same) {
+  test::Session guard;
+  test::NoticeRecorder host;
+  InitBrunvikVariable start;
+  for (const std::string_view known : {sql_server_dialect, access_dialect}) {
+    start.DATAType = known;
+    start.InitClase_PublicVariable();
+    EXPECT_EQ(host.take(), Texts{});
+  }
+  start.DATAType = "[Microsoft SQLServer]";
+  start.InitClase_PublicVariable();
+  EXPECT_EQ(host.take(),
+            Texts{"提示信息|InitClase_PublicVariable():DATAType 不是可识别的数据库类型：[Microsoft SQLServer]"});
+  EXPECT_EQ(session().DATAType, "[Microsoft SQLServer]");
+}
+
 TEST(InitBrunvikVariableTest, Fills_the_session_and_gives_it_a_stock_poster) {
   test::Session guard;
   auto connection = std::make_shared<ScriptedConnection>();

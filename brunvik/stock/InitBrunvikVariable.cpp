@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "brunvik/ado/clock.h"
 #include "brunvik/foundation/Brunvik_Variable.h"
 #include "brunvik/foundation/late_binding.h"
 #include "brunvik/stock/StockPoster.h"
@@ -16,6 +17,9 @@ void InitBrunvikVariable::InitClase_PublicVariable() {
   globals.StockPoster->ADOConn = ADOConn;
   globals.StockPoster->DATAType = DATAType;
   globals.OperatorId = OperatorId;
+  if (DATAType != sql_server_dialect && DATAType != access_dialect) {
+    ado::show_notice("InitClase_PublicVariable():DATAType 不是可识别的数据库类型：" + DATAType);
+  }
 }
 
 const Members& InitBrunvikVariable::members() const {

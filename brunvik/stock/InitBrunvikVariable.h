@@ -18,7 +18,8 @@ namespace brunvik {
 
 class InitBrunvikVariable final : public PublicObject {
  public:
-  // "[Microsoft SQL Server]" or "[Microsoft Access]".
+  // sql_server_dialect or access_dialect. Any other text is taken as it is, and then dates have no quotes and no
+  // number is worked out for a ledger row; since a text that is mistyped looks like one of the two, a notice tells it.
   std::string DATAType;
   std::string OperatorId;
   ado::ConnectionReference ADOConn;
