@@ -252,7 +252,7 @@ TEST(RehearsedDocuments, Have_every_class_with_every_verb) {
 
 TEST(RehearsedDocuments, Are_told_once_each) {
   std::set<std::string> classes, runs;
-  for (const Document& document : rehearsed_documents()) {
+  for (const RehearsedDocument& document : rehearsed_documents()) {
     EXPECT_TRUE(classes.insert(document.class_name).second) << document.class_name;
   }
   for (const Verb& verb : rehearsed_verbs()) EXPECT_TRUE(runs.insert(name_of(verb)).second) << name_of(verb);

@@ -23,7 +23,7 @@ std::vector<std::string> fault_books() {
       // What vouchers settle beside a purchase.
       "insert into OthersIEBill(Id,Type,Status,Closeamount,Amount) values('QTS24030500001',17,2,40,40)",
   };
-  for (const Document& document : rehearsed_documents()) {
+  for (const RehearsedDocument& document : rehearsed_documents()) {
     statements.insert(statements.end(), document.books.begin(), document.books.end());
   }
   return statements;

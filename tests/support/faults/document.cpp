@@ -6,7 +6,7 @@ namespace brunvik::test {
 
 namespace {
 
-using Make = Document (*)();
+using Make = RehearsedDocument (*)();
 
 std::vector<Make>& collected() {
   static std::vector<Make> makes;
@@ -17,11 +17,11 @@ std::vector<Make>& collected() {
 
 Rehearsed::Rehearsed(Make document) { collected().push_back(document); }
 
-const std::vector<Document>& rehearsed_documents() {
-  static const std::vector<Document> documents = [] {
-    std::vector<Document> made;
+const std::vector<RehearsedDocument>& rehearsed_documents() {
+  static const std::vector<RehearsedDocument> documents = [] {
+    std::vector<RehearsedDocument> made;
     for (const Make make : collected()) made.push_back(make());
-    for (Document& document : made) {
+    for (RehearsedDocument& document : made) {
       for (Verb& verb : document.verbs) verb.class_name = document.class_name;
     }
     return made;
@@ -29,8 +29,8 @@ const std::vector<Document>& rehearsed_documents() {
   return documents;
 }
 
-const Document& rehearsed_document(const std::string& class_name) {
-  for (const Document& document : rehearsed_documents()) {
+const RehearsedDocument& rehearsed_document(const std::string& class_name) {
+  for (const RehearsedDocument& document : rehearsed_documents()) {
     if (document.class_name == class_name) return document;
   }
   throw std::logic_error(class_name + " is not rehearsed: it belongs into a file of tests/support/faults");
@@ -39,7 +39,7 @@ const Document& rehearsed_document(const std::string& class_name) {
 const Verbs& rehearsed_verbs() {
   static const Verbs verbs = [] {
     Verbs all;
-    for (const Document& document : rehearsed_documents()) {
+    for (const RehearsedDocument& document : rehearsed_documents()) {
       all.insert(all.end(), document.verbs.begin(), document.verbs.end());
     }
     return all;

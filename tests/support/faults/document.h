@@ -30,7 +30,7 @@ struct Verb {
 
 using Verbs = std::vector<Verb>;
 
-struct Document {
+struct RehearsedDocument {
   std::string class_name = {};
   // The beginning of its numbers.
   std::string prefix = {};
@@ -46,12 +46,12 @@ struct Document {
 // Collects a document.
 class Rehearsed {
  public:
-  explicit Rehearsed(Document (*document)());
+  explicit Rehearsed(RehearsedDocument (*document)());
 };
 
 // Every document that was collected, and the one of this class; std::logic_error where there is none.
-const std::vector<Document>& rehearsed_documents();
-const Document& rehearsed_document(const std::string& class_name);
+const std::vector<RehearsedDocument>& rehearsed_documents();
+const RehearsedDocument& rehearsed_document(const std::string& class_name);
 
 // All their verbs.
 const Verbs& rehearsed_verbs();

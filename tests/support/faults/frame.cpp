@@ -20,9 +20,9 @@ const Member* published(const PublicObject& object, const std::string& verb) {
 
 // Three bills; the second has two rows: boxes of screws, which are kept by the piece, and packs of nuts, whose balance
 // is still to be made.
-std::vector<std::string> stock_bills(const Document& document, const Stock& stock) {
+std::vector<std::string> stock_bills(const RehearsedDocument& document, const Stock& stock) {
   const auto second_of = [](const std::string& prefix) {
-    return quoted(prefix.empty() ? "" : Document{.prefix = prefix}.bill());
+    return quoted(prefix.empty() ? "" : RehearsedDocument{.prefix = prefix}.bill());
   };
   const Long type = automation::class_named(document.class_name).kind->code.value();
   std::vector<std::string> statements;
@@ -65,7 +65,7 @@ Frame stock_frame() {
 }
 
 Verbs with_frame(const std::string& class_name, const std::string& prefix, const Frame& frame, Verbs own) {
-  const Document document{.class_name = class_name, .prefix = prefix};
+  const RehearsedDocument document{.class_name = class_name, .prefix = prefix};
   const Steps read = Steps{frame.header_read} + frame.rows_read;
   const Steps added = Steps{frame.header_read, frame.header_added} + frame.rows_added;
   const Steps updated = Steps{frame.header_read} + frame.rows_removed + Steps{frame.header_updated} + frame.rows_added;
@@ -106,8 +106,8 @@ Verbs with_frame(const std::string& class_name, const std::string& prefix, const
   return verbs;
 }
 
-Document stock_document(const std::string& class_name, Verbs own, const Stock& stock) {
-  Document document{.class_name = class_name, .prefix = stock.prefix};
+RehearsedDocument stock_document(const std::string& class_name, Verbs own, const Stock& stock) {
+  RehearsedDocument document{.class_name = class_name, .prefix = stock.prefix};
   if (document.prefix.empty()) document.prefix = automation::class_named(class_name).kind->prefix;
   document.books = stock_bills(document, stock);
   document.verbs = with_frame(class_name, document.prefix, stock.frame, std::move(own));

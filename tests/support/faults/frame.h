@@ -41,6 +41,6 @@ struct Stock {
 };
 
 // A document in StockBill: its three bills, its own verbs, and the frame's.
-Document stock_document(const std::string& class_name, Verbs own, const Stock& stock = {});
+RehearsedDocument stock_document(const std::string& class_name, Verbs own, const Stock& stock = {});
 
 }  // namespace brunvik::test

@@ -70,7 +70,7 @@ Steps voucher_settled(const VoucherWords& words, const std::string& verb) {
   return steps;
 }
 
-std::vector<std::string> voucher_bills(const Document& document, const VoucherWords& words) {
+std::vector<std::string> voucher_bills(const RehearsedDocument& document, const VoucherWords& words) {
   const Long type = automation::class_named(document.class_name).kind->code.value();
   std::vector<std::string> statements;
   for (int place = 1; place <= 3; ++place) {
@@ -90,7 +90,7 @@ std::vector<std::string> voucher_bills(const Document& document, const VoucherWo
   return statements;
 }
 
-Verbs voucher_verbs(const Document& document, const VoucherWords& words) {
+Verbs voucher_verbs(const RehearsedDocument& document, const VoucherWords& words) {
   const std::string second = document.bill(), unknown = document.number(9);
   Verbs verbs;
   const std::string aggregate = "(Id) as Id from " + words.header + " where ";
@@ -166,8 +166,9 @@ Steps beside(const VoucherWords& words, const std::string& verb) {
   return reading + settling;
 }
 
-Document voucher(const std::string& class_name, const VoucherWords& words) {
-  Document document{.class_name = class_name, .prefix = std::string(automation::class_named(class_name).kind->prefix)};
+RehearsedDocument voucher(const std::string& class_name, const VoucherWords& words) {
+  RehearsedDocument document{.class_name = class_name,
+                             .prefix = std::string(automation::class_named(class_name).kind->prefix)};
   document.books = voucher_bills(document, words);
   document.verbs = voucher_verbs(document, words);
   return document;

@@ -20,7 +20,7 @@ VoucherWords advance_words();
 
 // A document of this family with all its verbs and its three bills; the second has money by two means and settles a
 // purchase and another receivable.
-Document voucher(const std::string& class_name, const VoucherWords& words);
+RehearsedDocument voucher(const std::string& class_name, const VoucherWords& words);
 
 // A payment, a receipt or an advance at the side of a bill is read and then settled by the verb `Audite` or
 // `UndoAudite`, whatever came of the reading: rows that could not be read are not settled. Each of its failures is told

@@ -7,7 +7,7 @@ namespace brunvik::test {
 namespace {
 
 // An issue reads its rows again where a receipt takes those that it holds.
-Document other_stock_document(const std::string& class_name, bool reads_rows_first) {
+RehearsedDocument other_stock_document(const std::string& class_name, bool reads_rows_first) {
   const Steps before = reads_rows_first ? Steps{marked(), rows_read()} : Steps{marked()};
   Steps audit = before, undo = before;
   for (const PostedRow& row : both_rows()) {
@@ -18,7 +18,7 @@ Document other_stock_document(const std::string& class_name, bool reads_rows_fir
                                      {"UndoAudit", {}, undo + Steps{bill_cost()} + undo_post()}});
 }
 
-Document count_report(const std::string& class_name, const std::string& bill) {
+RehearsedDocument count_report(const std::string& class_name, const std::string& bill) {
   const Steps worker{header_read(), ends("bill|update stockbill set Status = "), rows_read(), row_cost(), row_cost(),
                      bill_cost()};
   return stock_document(class_name, {{"UpdateAudited", {}, worker + post(both_rows()[0]) + post(both_rows()[1])},
