@@ -1,7 +1,10 @@
 # What every target of this project is compiled with: brunvik_options carries it, and is never installed.
 add_library(brunvik_options INTERFACE)
 target_compile_features(brunvik_options INTERFACE cxx_std_20)
-target_compile_options(brunvik_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Werror)
+target_compile_options(brunvik_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion)
+if(BRUNVIK_WARNINGS_AS_ERRORS)
+  target_compile_options(brunvik_options INTERFACE -Werror)
+endif()
 # g++ 12 sees an overlap where a literal is assigned to a string, and there is none.
 target_compile_options(brunvik_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 target_include_directories(brunvik_options INTERFACE ${PROJECT_SOURCE_DIR})
@@ -12,6 +15,9 @@ if(BRUNVIK_SANITIZE)
   target_link_options(brunvik_options INTERFACE -fsanitize=address,undefined)
 endif()
 
+# Where the headers are installed: below a folder of their own, since `schema` and `drivers` are anybody's names.
+set(BRUNVIK_INCLUDE_FOLDER ${CMAKE_INSTALL_INCLUDEDIR}/brunvik-1)
+
 # A library of the house: its options, its place for those who include it, and its name for those who link it.
 function(brunvik_library target alias)
   add_library(brunvik::${alias} ALIAS ${target})
@@ -19,5 +25,5 @@ function(brunvik_library target alias)
   target_compile_features(${target} PUBLIC cxx_std_20)
   target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:brunvik_options>)
   target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
-                                              $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+                                              $<INSTALL_INTERFACE:${BRUNVIK_INCLUDE_FOLDER}>)
 endfunction()

@@ -1,10 +1,7 @@
 // A first host: lays the books in memory, buys ten boxes of screws, and prints what is in stock.
 #include <iostream>
 
-#include "brunvik/ado/clock.h"
-#include "brunvik/foundation/Brunvik_Variable.h"
-#include "brunvik/purchasing/purchase_receipt.h"
-#include "brunvik/stock/InitBrunvikVariable.h"
+#include "brunvik/brunvik.h"
 #include "drivers/sqlite/connection.h"
 #include "schema/ddl.h"
 

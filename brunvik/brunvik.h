@@ -1,0 +1,25 @@
+// What a host includes: the session, the clock and the notice, amounts, errors, and every document.
+//
+//   #include "brunvik/brunvik.h"
+//   #include "drivers/sqlite/connection.h"
+//
+// Calls by name stand apart, in brunvik/automation/automation.h.
+#pragma once
+
+#include "brunvik/ado/clock.h"
+#include "brunvik/ado/connection.h"
+#include "brunvik/ado/errors.h"
+#include "brunvik/ado/money.h"
+#include "brunvik/billframe/stock_row.h"
+#include "brunvik/foundation/Brunvik_Variable.h"
+#include "brunvik/purchasing/purchase_receipt.h"
+#include "brunvik/purchasing/purchase_return.h"
+#include "brunvik/sales/sales_issue.h"
+#include "brunvik/sales/sales_return.h"
+#include "brunvik/settlement/advance.h"
+#include "brunvik/settlement/pay_bill.h"
+#include "brunvik/settlement/receipt_bill.h"
+#include "brunvik/stock/InitBrunvikVariable.h"
+#include "brunvik/warehouse/count_report.h"
+#include "brunvik/warehouse/other_stock_document.h"
+#include "brunvik/warehouse/stock_adjustment.h"
