@@ -34,22 +34,13 @@ bool is_empty(ado::Connection& database) {
 // Whether the tables were laid, which they are in an empty database. All of them or none: one whose laying was cut off
 // must not look as if it were in use.
 bool lay_tables(ado::Connection& database) {
-  database.Execute("begin immediate");
-  try {
-    const bool empty = is_empty(database);
-    if (empty) {
-      for (const std::string& statement : schema::statements(schema::Engine::sqlite)) database.Execute(statement);
-    }
-    database.Execute("commit");
-    return empty;
-  } catch (...) {
-    try {
-      database.Execute("rollback");
-    } catch (const ado::RuntimeError&) {
-      // After some failures, a full disk among them, the engine has done so itself; what counts is that failure.
-    }
-    throw;
-  }
+  bool empty = false;
+  all_or_nothing(database, [&] {
+    empty = is_empty(database);
+    if (!empty) return;
+    for (const std::string& statement : schema::statements(schema::Engine::sqlite)) database.Execute(statement);
+  });
+  return empty;
 }
 
 }  // namespace
@@ -77,6 +68,21 @@ ado::ConnectionReference open_fresh_database(const std::string& address) {
                             "'" + file_at(address) + "' is in use already, and stays as it is");
   }
   return database;
+}
+
+void all_or_nothing(ado::Connection& database, const std::function<void()>& work) {
+  database.Execute("begin immediate");
+  try {
+    work();
+    database.Execute("commit");
+  } catch (...) {
+    try {
+      database.Execute("rollback");
+    } catch (const ado::RuntimeError&) {
+      // After some failures, a full disk among them, the engine has done so itself; what counts is that failure.
+    }
+    throw;
+  }
 }
 
 }  // namespace brunvik::host

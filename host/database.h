@@ -1,6 +1,7 @@
 // Databases by their address: "sqlite:PATH", or "sqlite::memory:" for one that lives as long as the process.
 #pragma once
 
+#include <functional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -28,5 +29,8 @@ ado::ConnectionReference open_database(const std::string& address, bool create);
 
 // Makes the file where there is none and lays the tables. Throws where anything stands in the database already.
 ado::ConnectionReference open_fresh_database(const std::string& address);
+
+// Does the work in one transaction: what throws out of it leaves the database as it was.
+void all_or_nothing(ado::Connection& database, const std::function<void()>& work);
 
 }  // namespace brunvik::host

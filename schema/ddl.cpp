@@ -1,5 +1,9 @@
 #include "schema/ddl.h"
 
+#include <algorithm>
+#include <functional>
+#include <stdexcept>
+
 #include "schema/tables.h"
 
 namespace brunvik::schema {
@@ -54,35 +58,74 @@ std::string replaced(std::string text, std::string_view from, std::string_view t
   return text;
 }
 
+std::string column_definition(Engine engine, const Table& table, const Column& column) {
+  const Declaration declared = declaration(engine, column.type);
+  std::string text(column.name);
+  text.append(" ").append(declared.words);
+  if (column.name == table.key) text.append(" NOT NULL PRIMARY KEY");
+  if (!column.initial.empty()) text.append(" DEFAULT ").append(column.initial);
+  if (!declared.check.empty()) {
+    text.append(" CHECK (").append(replaced(std::string(declared.check), "{}", column.name)).append(")");
+  }
+  return text;
+}
+
 std::string create_table(Engine engine, const Table& table) {
   std::string text = "CREATE TABLE " + std::string(table.name) + " (";
   std::string_view separator = "\n  ";
   for (const Column& column : table.columns) {
-    const Declaration declared = declaration(engine, column.type);
-    text.append(separator).append(column.name).append(" ").append(declared.words);
-    if (column.name == table.key) text.append(" NOT NULL PRIMARY KEY");
-    if (!column.initial.empty()) text.append(" DEFAULT ").append(column.initial);
-    if (!declared.check.empty()) {
-      text.append(" CHECK (").append(replaced(std::string(declared.check), "{}", column.name)).append(")");
-    }
+    text.append(separator).append(column_definition(engine, table, column));
     separator = ",\n  ";
   }
   return text + "\n)";
 }
 
-std::string create_index(const Table& table, std::string_view columns) {
-  const std::string on(columns);
+std::string add_column(Engine engine, const Table& table, const Column& column) {
   const std::string name(table.name);
-  return "CREATE INDEX " + name + "_" + replaced(on, ", ", "_") + " ON " + name + " (" + on + ")";
+  if (column.name == table.key) {
+    throw std::runtime_error("the table " + name + " lacks its key " + std::string(column.name) +
+                             ", which can't be added to it");
+  }
+  return "ALTER TABLE " + name + " ADD COLUMN " + column_definition(engine, table, column);
+}
+
+std::string index_name(const Table& table, std::string_view columns) {
+  return std::string(table.name) + "_" + replaced(std::string(columns), ", ", "_");
+}
+
+std::string create_index(const Table& table, std::string_view columns) {
+  return "CREATE INDEX " + index_name(table, columns) + " ON " + std::string(table.name) + " (" + std::string(columns) +
+         ")";
+}
+
+bool same_name(std::string_view left, std::string_view right) {
+  const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; };
+  return std::ranges::equal(left, right, {}, lower, lower);
+}
+
+bool has(const std::vector<std::string>& names, std::string_view name) {
+  return std::ranges::any_of(names, [name](const std::string& other) { return same_name(name, other); });
 }
 
 }  // namespace
 
-std::vector<std::string> statements(Engine engine) {
+std::vector<std::string> statements(Engine engine) { return lacking_statements(engine, {}); }
+
+std::vector<std::string> lacking_statements(Engine engine, std::span<const LaidTable> laid) {
+  const LaidTable nothing;
   std::vector<std::string> list;
   for (const Table& table : tables()) {
-    list.push_back(create_table(engine, table));
-    for (const std::string_view columns : table.indexes) list.push_back(create_index(table, columns));
+    const auto found =
+        std::ranges::find_if(laid, [&](const LaidTable& other) { return same_name(table.name, other.name); });
+    const bool is_there = found != laid.end();
+    const LaidTable& there = is_there ? *found : nothing;
+    if (!is_there) list.push_back(create_table(engine, table));
+    for (const Column& column : table.columns) {
+      if (is_there && !has(there.columns, column.name)) list.push_back(add_column(engine, table, column));
+    }
+    for (const std::string_view columns : table.indexes) {
+      if (!has(there.indexes, index_name(table, columns))) list.push_back(create_index(table, columns));
+    }
   }
   return list;
 }

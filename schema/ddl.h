@@ -1,6 +1,7 @@
-// The statements that lay the tables on an engine.
+// The statements that lay the tables on an engine, and those that lay what a database lacks of them.
 #pragma once
 
+#include <span>
 #include <string>
 #include <vector>
 
@@ -10,5 +11,18 @@ enum class Engine { sqlite };
 
 // One statement an element, without a closing semicolon, in an order in which an empty database can run them.
 std::vector<std::string> statements(Engine engine);
+
+// A table as a database has it. Names are compared without regard to case.
+struct LaidTable {
+  std::string name;
+  std::vector<std::string> columns;
+  std::vector<std::string> indexes;
+};
+
+// What these tables lack, in an order in which it can be run: tables, columns, indexes. Nothing is ever taken away or
+// changed: a column of another type stays as it is, and so does whatever isn't described here. Rows that are there get
+// a lacking column's initial value, or null. Throws a std::runtime_error where a table lacks its key, which no engine
+// can give to rows that are there.
+std::vector<std::string> lacking_statements(Engine engine, std::span<const LaidTable> laid);
 
 }  // namespace brunvik::schema
