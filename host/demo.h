@@ -1,11 +1,11 @@
-// A company's first day: goods come in and go out, part of the money at the counter, and the books are shown after
-// each verb.
+// The demo: a story played in a fresh database, and what each verb changed in the books.
 #pragma once
 
 #include <iosfwd>
 #include <string>
 
 #include "host/interpreter.h"
+#include "host/story.h"
 
 namespace brunvik::host {
 
@@ -17,7 +17,14 @@ struct DemoOptions {
   std::string command = "brunvik";
 };
 
-// Throws a RuntimeError where the database can't be used or isn't empty, and where a verb fails.
-void demo(const DemoOptions& options, std::ostream& out);
+// Throws a RuntimeError where the database can't be used or isn't empty, and an UnreadableStory, which says the line,
+// where a line of the story is refused or a verb fails.
+void demo(const Story& story, const DemoOptions& options, std::ostream& out);
+
+// Plays a story in the books of an interpreter.
+void play(const Story& story, Interpreter& interpreter, std::ostream& out);
+
+// The stories, one a line: the name and what it tells.
+std::string list_of(const std::vector<Story>& stories);
 
 }  // namespace brunvik::host

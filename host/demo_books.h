@@ -1,29 +1,38 @@
-// The books as the demo shows them: stock, average cost, bills and vouchers, as tables with headings.
+// The books as the demo shows them: what a verb changed in a story's tables.
 #pragma once
 
 #include <iosfwd>
-#include <map>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "host/interpreter.h"
+#include "host/story.h"
 
 namespace brunvik::host {
 
 class DemoBooks {
  public:
-  DemoBooks(Interpreter& interpreter, std::ostream& out) : interpreter_(interpreter), out_(out) {}
+  DemoBooks(Interpreter& interpreter, std::ostream& out, const std::vector<StoryTable>& tables);
 
-  // The tables that aren't what they were when they were shown last.
+  // Takes the tables as they are for known.
+  void look();
+
+  // Shows the rows that are new or other than they were when they were known last, and which are gone.
   void show_changes();
 
  private:
-  std::string table_of(const std::string& statement, const std::vector<std::string>& headings);
+  using Row = std::vector<std::string>;
+
+  struct Known {
+    StoryTable table;
+    std::vector<Row> rows;
+  };
+
+  std::vector<Row> rows_of(const StoryTable& table);
 
   Interpreter& interpreter_;
   std::ostream& out_;
-  std::map<std::string_view, std::string> shown_;
+  std::vector<Known> known_;
 };
 
 // The answer to a line. Throws a RuntimeError where the line was refused.

@@ -1,5 +1,6 @@
 // The brunvik command: a host without screens.
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <cstdio>
 #include <exception>
 #include <fstream>
@@ -11,6 +12,7 @@
 #include "host/demo.h"
 #include "host/describe.h"
 #include "host/interpreter.h"
+#include "host/laid_tables.h"
 #include "host/progress.h"
 #include "host/run.h"
 #include "schema/ddl.h"
@@ -33,6 +35,11 @@ struct Options {
   std::string class_name;
   bool json = false;
   std::string engine = "sqlite";
+  // Whether what a database lacks is laid.
+  bool apply = false;
+  std::string story{host::default_story};
+  // Whether the stories are named, and none is played.
+  bool list = false;
 };
 
 void add_session_options(CLI::App& command, Options& options) {
@@ -68,7 +75,17 @@ int run_command(const Options& options) {
 }
 
 int demo_command(const Options& options) {
-  host::demo({options.database, options.settings, options.command}, std::cout);
+  const std::vector<host::Story> stories = host::stories();
+  if (options.list) {
+    std::cout << host::list_of(stories);
+    return done;
+  }
+  const auto story = std::ranges::find(stories, options.story, &host::Story::name);
+  if (story == stories.end()) {
+    std::cerr << "brunvik: there is no story '" << options.story << "'; brunvik demo --list names them\n";
+    return bad_usage;
+  }
+  host::demo(*story, {options.database, options.settings, options.command}, std::cout);
   return done;
 }
 
@@ -87,8 +104,15 @@ int describe_command(const Options& options) {
   }
 }
 
-int schema_command() {
-  for (const std::string& statement : schema::statements(schema::Engine::sqlite)) std::cout << statement << ";\n";
+int schema_command(const Options& options) {
+  std::vector<std::string> statements;
+  if (options.database.empty()) {
+    statements = schema::statements(schema::Engine::sqlite);
+  } else {
+    const auto database = host::open_database(options.database, false);
+    statements = options.apply ? host::add_what_is_lacking(*database) : host::lacking_statements(*database);
+  }
+  for (const std::string& statement : statements) std::cout << statement << ";\n";
   return done;
 }
 
@@ -121,7 +145,9 @@ int parsed_and_carried_out(int count, char** words) {
   app.set_version_flag("--version", "brunvik " BRUNVIK_VERSION);
   app.require_subcommand(1);
 
-  CLI::App& demo = *app.add_subcommand("demo", "Buys and sells in a fresh database, and shows what changes");
+  CLI::App& demo = *app.add_subcommand("demo", "Plays a story in a fresh database, and shows what each verb changes");
+  demo.add_option("NAME", options.story, "The story; counter-sale unless given");
+  demo.add_flag("--list", options.list, "Names the stories, with a line for each");
   add_session_options(demo, options);
 
   CLI::App& run = *app.add_subcommand("run", "Carries out JSON Lines, one answer a line");
@@ -135,8 +161,12 @@ int parsed_and_carried_out(int count, char** words) {
   describe.add_flag("--json", options.json, "As JSON");
 
   CLI::App& schema = *app.add_subcommand("schema", "Prints the statements that lay the tables");
-  schema.add_option("--engine", options.engine, "The database engine: sqlite")
-      ->check(CLI::IsMember(std::vector<std::string>{"sqlite"}));
+  CLI::Option* engine = schema.add_option("--engine", options.engine, "The database engine: sqlite")
+                            ->check(CLI::IsMember(std::vector<std::string>{"sqlite"}));
+  CLI::Option* database = schema.add_option("--db", options.database, "Prints only what this database lacks")
+                              ->type_name("URL")
+                              ->excludes(engine);
+  schema.add_flag("--apply", options.apply, "Lays what the database lacks, and takes nothing away")->needs(database);
 
   try {
     app.parse(count, words);
@@ -145,7 +175,7 @@ int parsed_and_carried_out(int count, char** words) {
   }
   if (options.dialect == "access") options.settings.dialect = "[Microsoft Access]";
   if (describe.parsed()) return describe_command(options);
-  if (schema.parsed()) return schema_command();
+  if (schema.parsed()) return carried_out(schema_command, options);
   if (demo.parsed()) return carried_out(demo_command, options);
   return carried_out(run_command, options);
 }

@@ -29,6 +29,11 @@ void Table::add(std::vector<std::string> cells) {
   rows_.push_back(std::move(cells));
 }
 
+void Table::make_room_for(std::vector<std::string> cells) {
+  at_right_.resize(std::max(at_right_.size(), cells.size()));
+  unseen_.push_back(std::move(cells));
+}
+
 std::vector<std::size_t> Table::widths() const {
   std::vector<std::size_t> widths(at_right_.size());
   const auto widen = [&](const std::vector<std::string>& cells) {
@@ -37,6 +42,7 @@ std::vector<std::size_t> Table::widths() const {
     }
   };
   widen(headings_);
+  for (const auto& row : unseen_) widen(row);
   for (auto row : rows_) {
     // Without headings a row's last cell may stick out: nothing stands behind it.
     while (headings_.empty() && !row.empty() && row.back().empty()) row.pop_back();

@@ -18,6 +18,9 @@ class Table {
 
   void add(std::vector<std::string> cells);
 
+  // The columns get as wide as for these cells, which aren't shown.
+  void make_room_for(std::vector<std::string> cells);
+
   // One row a line, without blanks at its end.
   std::string text() const;
 
@@ -27,6 +30,7 @@ class Table {
   std::vector<std::string> headings_;
   std::vector<bool> at_right_;
   std::vector<std::vector<std::string>> rows_;
+  std::vector<std::vector<std::string>> unseen_;
 };
 
 // How many places a text takes on a screen.

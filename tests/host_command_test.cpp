@@ -110,6 +110,7 @@ TEST(HostCommand, Bad_usage_is_status_2_and_says_why) {
                                                      {"run", "/no/such/file"},
                                                      {"demo", "--now", "soon"},
                                                      {"demo", "--create"},
+                                                     {"demo", "no-story"},
                                                      {"describe", "clsNone"},
                                                      {"schema", "--engine", "paper"}};
   for (const auto& usage : usages) {
