@@ -59,11 +59,14 @@ ado::ObjectReference row_value(const Json& json, const Json& values) {
   return std::shared_ptr<PublicObject>(rows, &row);
 }
 
-ado::ObjectReference rows_value(const Json& json, const Json& all_values) {
+ado::ObjectReference filled(std::shared_ptr<RowCollection> rows, const Json& all_values) {
   if (!all_values.is_array()) ado::raise(error::type_mismatch);
-  const std::shared_ptr<RowCollection> rows = automation::create_rows(text_member(json, "class", "StockRow"));
   for (const Json& values : all_values) put_properties(rows->add(), values);
   return rows;
+}
+
+ado::ObjectReference rows_value(const Json& json, const Json& all_values) {
+  return filled(automation::create_rows(text_member(json, "class", "StockRow")), all_values);
 }
 
 // {"money":"1.5"} and its like: one member that says the type, and a record's class beside it.
@@ -108,8 +111,11 @@ Json object_json(const ado::ObjectReference& reference) {
 }
 
 Value to_argument(const Json& json, const Parameter& parameter) {
-  const Json* values = json.is_object() ? find(json, "row") : nullptr;
-  if (!values || !parameter.make_record || find(json, "class")) return to_value(json, parameter.type);
+  if (!json.is_object() || find(json, "class")) return to_value(json, parameter.type);
+  const Json* rows = find(json, "rows");
+  if (rows && parameter.make_rows) return filled(parameter.make_rows(), *rows);
+  const Json* values = find(json, "row");
+  if (!values || !parameter.make_record) return to_value(json, parameter.type);
   const std::shared_ptr<PublicObject> record = parameter.make_record();
   put_properties(*record, *values);
   return ado::ObjectReference(record);

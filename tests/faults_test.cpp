@@ -64,6 +64,7 @@ class FaultRuns : public ::testing::Test {
       automation::put(*object, "ADOConn", ado::ObjectReference(books_));
       std::vector<Value> bill{rehearsed_document(verb.class_name).bill()};
       EXPECT_EQ(automation::call(*object, "LoadById", bill), Value(Long{0}));
+      if (verb.prepare) verb.prepare(*object);
     }
     if (!verb.number.empty()) automation::put(*object, "ID", verb.number);
     automation::put(*object, "ADOConn", ado::ObjectReference(road("bill", circumstances.bill)));
@@ -141,12 +142,14 @@ TEST_F(FaultsOfAConnection, That_is_the_bills_end_every_verb_at_its_first_statem
     SCOPED_TRACE(name_of(verb));
     const Step& first = verb.steps.front();
     if (!first.begins.starts_with("bill|")) continue;  // it begins on the session's road
+    // A verb that gives no number of an error gives the same for all of them.
+    const auto result_of = [&](Long error) { return first.result == rehearsed_number ? error : first.result; };
     const Outcome unset = outcome(verb, {.bill = Way::unset});
-    EXPECT_EQ(unset.result, 91);
+    EXPECT_EQ(unset.result, result_of(91));
     EXPECT_EQ(unset.notices, notices_of(first, "对象变量或 With 块变量未设置"));
     EXPECT_EQ(unset.statements, Texts{});
     const Outcome closed = outcome(verb, {.bill = Way::closed});
-    EXPECT_EQ(closed.result, 3704);
+    EXPECT_EQ(closed.result, result_of(3704));
     EXPECT_EQ(closed.notices, notices_of(first, "对象关闭时，不允许操作。"));
     EXPECT_EQ(closed.statements, Texts{});
   }

@@ -75,6 +75,15 @@ constexpr MakeRecord record_maker() {
   return nullptr;
 }
 
+template <class Parameter>
+constexpr MakeRows rows_maker() {
+  using Class = std::remove_cvref_t<Parameter>;
+  if constexpr (std::is_base_of_v<RowCollection, Class> && std::is_default_constructible_v<Class>) {
+    return [] { return std::shared_ptr<RowCollection>(std::make_shared<Class>()); };
+  }
+  return nullptr;
+}
+
 template <class... Parameters>
 struct Call {
   static constexpr std::size_t count = sizeof...(Parameters);
@@ -83,9 +92,11 @@ struct Call {
   static std::vector<Parameter> described(std::array<Parameter, count> parameters) {
     const std::array<Type, count> types{type_of<Parameters>()...};
     const std::array<MakeRecord, count> makers{record_maker<Parameters>()...};
+    const std::array<MakeRows, count> rows_makers{rows_maker<Parameters>()...};
     for (std::size_t place = 0; place < count; ++place) {
       parameters[place].type = types[place];
       parameters[place].make_record = makers[place];
+      parameters[place].make_rows = rows_makers[place];
     }
     return {parameters.begin(), parameters.end()};
   }

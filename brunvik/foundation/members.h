@@ -46,6 +46,9 @@ std::string_view name_of(MemberKind kind) noexcept;
 // Makes a record of the class that a parameter takes, for an argument that is given field by field.
 using MakeRecord = std::shared_ptr<PublicObject> (*)();
 
+// The same for a collection of records.
+using MakeRows = std::shared_ptr<RowCollection> (*)();
+
 struct Parameter {
   std::string_view name;
   bool by_reference = false;
@@ -54,6 +57,7 @@ struct Parameter {
   Value default_value = {};
   Type type = Type::Variant;
   MakeRecord make_record = nullptr;
+  MakeRows make_rows = nullptr;
 };
 
 inline Parameter in(std::string_view name) { return {name}; }

@@ -139,6 +139,14 @@ void PurchaseReceipt::read_rows_of(Long row_number, bool with_arrivals) {
   take_rows(execute(statement), read_arrival);
 }
 
+void PurchaseReceipt::read_receipt_rows(Collection<StockRow>& rows, const ado::ConnectionReference& connection,
+                                        const std::string& number) {
+  const clsPurchaseInBill receipt;
+  const DocumentForm& form = static_cast<const PurchaseReceipt&>(receipt).form();
+  brunvik::read_rows<StockRow>(rows, ado::execute(connection, sql(form.statements.select_rows, number)),
+                               form.row_members_read, number_unnumbered_row);
+}
+
 Document::FinishRow PurchaseReceipt::finish_row() const { return number_unnumbered_row; }
 
 Long PurchaseReceipt::Audit(bool bJKC) noexcept {

@@ -32,6 +32,10 @@ class PurchaseReceipt : public TradeDocument {
   // the table. Sales that the audit costed keep their cost.
   Long UndoAudit(bool bJKC = false) noexcept;
 
+  // The collection becomes the rows of the receipt of this number, read as LoadById reads them. Throws on an error.
+  static void read_receipt_rows(Collection<StockRow>& rows, const ado::ConnectionReference& connection,
+                                const std::string& number);
+
  protected:
   // An opening balance has no advance.
   std::string NowAdvanceBillID;

@@ -6,13 +6,16 @@
 
 namespace brunvik {
 
-Money PostingDocument::cost_at_price(const StockRow& row) {
-  return Money::from_double(row.price.to_double() * static_cast<double>(row.Qty));
+double base_units(const StockRow& row) {
+  return GoodsUnitConverter(row.Gid, row.Unit).to_double() * static_cast<double>(row.Qty);
 }
 
-Money PostingDocument::cost_at_average(Money average, const StockRow& row) {
-  const double base_units = GoodsUnitConverter(row.Gid, row.Unit).to_double() * static_cast<double>(row.Qty);
-  return Money::from_double(average.to_double() * base_units);
+Money cost_at_average(Money average, const StockRow& row) {
+  return Money::from_double(average.to_double() * base_units(row));
+}
+
+Money PostingDocument::cost_at_price(const StockRow& row) {
+  return Money::from_double(row.price.to_double() * static_cast<double>(row.Qty));
 }
 
 void PostingDocument::write_row_cost(StockRow& row, Money cost) {

@@ -10,6 +10,12 @@ namespace brunvik {
 // Whether an audit or its undo moves the goods, or sets status and cost alone.
 enum class Stock { stays, moves };
 
+// The row's Qty in base units, as every row cost takes it.
+double base_units(const StockRow& row);
+
+// Row cost of a document that values its rows at the average: the average times Qty in base units, in double.
+Money cost_at_average(Money average, const StockRow& row);
+
 class PostingDocument : public StockDocument {
  protected:
   // What the document does to the stock; none for a document that only records.
@@ -17,9 +23,6 @@ class PostingDocument : public StockDocument {
 
   // Row cost of a document that values its rows at their own price: price times Qty, in double.
   static Money cost_at_price(const StockRow& row);
-
-  // Row cost of a document that values its rows at the average: the average times Qty in base units, in double.
-  static Money cost_at_average(Money average, const StockRow& row);
 
   // For each row in turn: works its cost out, writes it, posts the row where the stock moves, and lets it be followed
   // up. A row that can't be posted ends it, with the rows before posted.

@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "brunvik/foundation/public_object.h"
 #include "tests/support/faults/step.h"
 
 namespace brunvik::test {
@@ -24,6 +25,8 @@ struct Verb {
   // The number that the object has in the end; the bill that it has read else.
   std::string number = {};
   std::vector<std::string> before = {};
+  // What the host does with the object that has read its bill, in front of the verb.
+  void (*prepare)(PublicObject& object) = nullptr;
   // Whose verb it is; the collection fills it in.
   std::string class_name = {};
 };

@@ -38,9 +38,9 @@ Steps post(const PostedRow& row) {
                ends(row.has_balance ? "session|update Inventory set " : "session|insert into Inventory(")};
 }
 
-Steps undo_post() {
+Steps undo_post(const std::vector<PostedRow>& rows) {
   Steps steps{ends("session|select * from StockBillItems where BillId=")};
-  for (const PostedRow& row : both_rows()) {
+  for (const PostedRow& row : rows) {
     steps = steps + base_quantity(row) + Steps{ends("session|update Inventory set ")};
   }
   return steps;

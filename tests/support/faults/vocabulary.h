@@ -36,7 +36,7 @@ Steps base_quantity(const PostedRow& row);
 Steps post(const PostedRow& row);
 
 // A bill's stock is taken back row by row; and the same where nobody looks at what comes of it.
-Steps undo_post();
+Steps undo_post(const std::vector<PostedRow>& rows = both_rows());
 Steps undo_post_ignored();
 
 // ----------------------------------------------------------------------------- StockBill, on the bill's own road

@@ -1,4 +1,4 @@
-// Purchase receipt and return, with their opening balances.
+// Purchase receipt and return, with their opening balances; cost sharing and goods arrival.
 #include "tests/support/public_members/expected.h"
 
 namespace brunvik::test {
@@ -52,6 +52,59 @@ const ExpectedClass receipt("clsPurchaseInBill", purchase_receipt("NowAdvanceBil
 const ExpectedClass opening_receipt("clsPurchaseInBjkcBill", purchase_receipt("", ""));
 const ExpectedClass bill_of_return("clsPurchaseOutBill", purchase_return);
 const ExpectedClass opening_return("clsPurchaseOutBjkcBill", purchase_return);
+
+const ExpectedClass cost_sharing("clsShareCost", R"(
+property Connection: ADOConn
+property String: ID Vendors VendorsName Creator Createtime
+property Money: BillCost
+property String: PurchaseBill
+property Money: PurchaseAmount
+property Long: Referflag
+property String: Referbillid Summary Remarks
+collection Collection: colBillItems colBillCostItems colBillGoodCostItems
+verb Long: Save() Delete() LoadById(&?BID:String=,&?PurID:String=) GetPurchaseInBillItems(BillId:String)
+verb Long: DeleteShareCostBill() DeleteShareCostBillItems() DeleteShareGoodCostBillItems()
+verb Long: AuditShareCostBillItems(bAudit:Boolean) GetNewId(&BID:String)
+)");
+
+const ExpectedRecord cost_kind("CostKindRow", R"(
+property String: BillId
+property Integer: RowNum
+property String: CostId CostName
+property Money: Amount
+property String: ShareMethod remarks
+)");
+
+const ExpectedRecord goods_share("GoodsShareRow", R"(
+property String: Billid CostId
+property Integer: GRowNum
+property String: GId
+property Single: GoodQty
+property String: ShareId
+property Money: Sharecost
+property String: ShareMethod UseShare
+)");
+
+const ExpectedClass arrival("ClsAdjustInBill", R"(
+property Connection: ADOConn
+collection Collection: colBillItems colPurchaseInItems colPayBillInItems
+property String: ID Manualid Manager Salesman Creator Createtime Audittime
+property Long: Status Deliverymethod Referflag
+property String: Auditor Referbillid Summary Remarks
+verb Long: Save() SaveAsDraft() Delete() SaveAdjustInBillItems(bStatues:Boolean)
+verb Long: DeleteAdjustInBillItems(clsAdjustIn:Object) GetNewId(&BID:String)
+)" + walking_verbs() + R"(
+verb Long: LoadById(&BID:String)
+)" + near_verb() + R"(
+verb Long: Audit() UndoAudit()
+)");
+
+const ExpectedRecord arrival_row("ArrivalRow", R"(
+property String: AdjustId StockId
+property Long: RowNum Meansofpayment
+property Money: Amount
+property Long: StockRowNum
+)");
 
 }  // namespace
 
