@@ -4,7 +4,9 @@
 
 #include <cmath>
 #include <cstdint>
+#include <iomanip>
 #include <limits>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -54,6 +56,12 @@ TEST(Money, Is_appended_behind_what_is_there) {
   std::string text = "set Cost=";
   money("-0.05").append_to(text);
   EXPECT_EQ(text, "set Cost=-0.05");
+}
+
+TEST(Money, Is_written_to_a_stream_by_its_width) {
+  std::ostringstream out;
+  out << money("-0.05") << '|' << std::setw(6) << money("12.5") << '|';
+  EXPECT_EQ(out.str(), "-0.05|  12.5|");
 }
 
 TEST(Money, Reads_decimal_text_exactly) {

@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <ostream>
 
 #include "brunvik/ado/errors.h"
 #include "brunvik/ado/numbers.h"
@@ -95,6 +96,8 @@ std::string Money::text() const {
   append_to(text);
   return text;
 }
+
+std::ostream& operator<<(std::ostream& out, Money amount) { return out << amount.text(); }
 
 Money operator+(Money left, Money right) {
   return narrow(static_cast<Wide>(left.count_) + static_cast<Wide>(right.count_));

@@ -6,6 +6,7 @@
 
 #include <compare>
 #include <cstdint>
+#include <iosfwd>
 #include <string>
 #include <string_view>
 
@@ -53,6 +54,9 @@ class Money {
  private:
   std::int64_t count_ = 0;
 };
+
+// Writes the text, by the width and the fill of the stream.
+std::ostream& operator<<(std::ostream& out, Money amount);
 
 }  // namespace brunvik::ado
 
