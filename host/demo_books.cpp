@@ -17,10 +17,6 @@ std::string cell_text(const Json& cell) {
   return cell.is_string() ? cell.get<std::string>() : cell.dump();
 }
 
-bool same_keys(const std::vector<std::string>& left, const std::vector<std::string>& right, std::size_t keys) {
-  return std::equal(left.begin(), std::next(left.begin(), static_cast<std::ptrdiff_t>(keys)), right.begin());
-}
-
 }  // namespace
 
 DemoBooks::DemoBooks(Interpreter& interpreter, std::ostream& out, const std::vector<StoryTable>& tables)
@@ -49,8 +45,9 @@ void DemoBooks::show_changes() {
       }
     }
     for (const Row& gone : before) {
-      if (std::ranges::any_of(rows, [&](const Row& row) { return same_keys(row, gone, table.keys); })) continue;
       Row row(gone.begin(), std::next(gone.begin(), static_cast<std::ptrdiff_t>(table.keys)));
+      const auto is_there = [&](const Row& other) { return std::equal(row.begin(), row.end(), other.begin()); };
+      if (std::ranges::any_of(rows, is_there)) continue;
       row.emplace_back("已删除");
       shown.add(std::move(row));
       changed = true;
