@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "brunvik/ado/errors.h"
+#include "drivers/sqlite/collation.h"
 #include "drivers/sqlite/failure.h"
 #include "drivers/sqlite/functions.h"
 
@@ -49,6 +50,7 @@ Engine::Engine(const std::string& path, const Options& options)
   // Text in quotation marks is a name, never a value.
   sqlite3_db_config(database, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
   sqlite3_db_config(database, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
+  add_collation(database);
   add_functions(database);
   execute_as_it_stands(options.synchronous == Synchronous::full ? "pragma synchronous=full"
                                                                 : "pragma synchronous=normal");

@@ -2,17 +2,13 @@
 
 #include <sqlite3.h>
 
-#include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <cstring>
 #include <optional>
 #include <string>
 
-#include "brunvik/ado/characters.h"
 #include "brunvik/ado/errors.h"
 #include "brunvik/ado/money.h"
-#include "brunvik/ado/names.h"
 #include "brunvik/ado/numbers.h"
 #include "drivers/sqlite/failure.h"
 #include "drivers/sqlite/pattern.h"
@@ -119,54 +115,6 @@ void give_sum(sqlite3_context* context) {
   give_amount(context, sum->count);
 }
 
-std::size_t without_trailing_blanks(const char* text, std::size_t length) noexcept {
-  while (length != 0 && text[length - 1] == ' ') --length;
-  return length;
-}
-
-// Letters of ASCII in the order of the small ones, as the engine has them; all others in that of the capital ones.
-char32_t without_case(char32_t character) noexcept {
-  const char32_t capital = ado::upper_case(character);
-  return capital < 0x80 ? static_cast<char32_t>(ado::lower(static_cast<char>(capital))) : capital;
-}
-
-int compare_characters(std::string_view left, std::string_view right) noexcept {
-  while (!left.empty() && !right.empty()) {
-    const char32_t left_character = without_case(ado::take_character(left));
-    const char32_t right_character = without_case(ado::take_character(right));
-    if (left_character != right_character) return left_character < right_character ? -1 : 1;
-  }
-  return static_cast<int>(!left.empty()) - static_cast<int>(!right.empty());
-}
-
-// The engine's own NOCASE, but for trailing blanks and for letters beyond ASCII: statements that the library puts in
-// upper case must find the keys that hold such letters. An index is in the same order for both as long as no key ends
-// in a blank or holds a small letter beyond ASCII; Chinese characters have no case.
-int compare(void*, int left_length, const void* left_text, int right_length, const void* right_text) noexcept {
-  const auto* const left = static_cast<const char*>(left_text);
-  const auto* const right = static_cast<const char*>(right_text);
-  const std::size_t left_size = without_trailing_blanks(left, static_cast<std::size_t>(left_length));
-  const std::size_t right_size = without_trailing_blanks(right, static_cast<std::size_t>(right_length));
-  const std::size_t common = std::min(left_size, right_size);
-  std::size_t place = 0;
-  // Keys of one kind and day begin alike.
-  for (; place + 8 <= common; place += 8) {
-    if (std::memcmp(left + place, right + place, 8) != 0) break;
-  }
-  for (; place < common; ++place) {
-    if (((static_cast<unsigned char>(left[place]) | static_cast<unsigned char>(right[place])) & 0x80U) != 0) {
-      if (left[place] == right[place]) continue;
-      // Up to here both are alike, so they begin this character at the same place.
-      while (place > 0 && (static_cast<unsigned char>(left[place]) & 0xC0U) == 0x80U) --place;
-      return compare_characters({left + place, left_size - place}, {right + place, right_size - place});
-    }
-    const int difference =
-        static_cast<unsigned char>(ado::lower(left[place])) - static_cast<unsigned char>(ado::lower(right[place]));
-    if (difference != 0) return difference;
-  }
-  return static_cast<int>(left_size) - static_cast<int>(right_size);
-}
-
 }  // namespace
 
 void add_functions(sqlite3* database) {
@@ -178,7 +126,6 @@ void add_functions(sqlite3* database) {
     check(sqlite3_create_function_v2(database, name.data(), arguments, flags, nullptr, function, nullptr, nullptr,
                                      nullptr));
   };
-  check(sqlite3_create_collation_v2(database, "NOCASE", SQLITE_UTF8, nullptr, compare, nullptr));
   add(money_function, 1, money);
   add(single_function, 1, single);
   add(whole_function, 1, whole);

@@ -1,4 +1,4 @@
-// What the driver adds to the engine: the collation of the books, and the functions that the rewriting calls.
+// What the driver adds to the engine: the functions that the rewriting calls.
 #pragma once
 
 #include <string_view>
