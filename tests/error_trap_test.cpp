@@ -108,6 +108,7 @@ TEST(RuntimeError, The_codes_of_a_provider_are_the_signed_numbers_of_its_32_bits
   EXPECT_EQ(ado::error::statement_refused, -2147217900);
   EXPECT_EQ(ado::error::no_such_table, -2147217865);
   EXPECT_EQ(ado::error::constraint_violated, -2147217873);
+  EXPECT_EQ(ado::error::data_overflow, -2147217833);
   EXPECT_EQ(ado::error::timed_out, -2147217871);
   EXPECT_EQ(ado::error::provider_failed, -2147467259);
 }

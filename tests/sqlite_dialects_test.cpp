@@ -54,6 +54,21 @@ TEST_F(SqliteDialects, A_text_that_is_no_number_is_an_error) {
   EXPECT_NE(error_of(*books, "select max(clng(ID)) as ls_bm from ZHXX"), 0);
 }
 
+TEST_F(SqliteDialects, A_text_of_blanks_is_zero_in_the_dialect_that_reads_it_so) {
+  EXPECT_EQ(value("select convert(int,'')"), ado::Value(Long{0}));
+  EXPECT_EQ(value("select convert(int,'  ')"), ado::Value(Long{0}));
+  EXPECT_NE(error_of(*books, "select clng('')"), 0);
+  EXPECT_NE(error_of(*books, "select clng('  ')"), 0);
+  for (const char* id : {"", "7"}) run("insert into ZHXX(ID) values('" + std::string(id) + "')");
+  EXPECT_EQ(value("select max(convert(int,ID)) as ls_bm from ZHXX"), ado::Value(Long{7}));
+  EXPECT_NE(error_of(*books, "select max(clng(ID)) as ls_bm from ZHXX"), 0);
+}
+
+TEST_F(SqliteDialects, A_number_beyond_32_bits_is_an_overflow) {
+  EXPECT_EQ(error_of(*books, "select convert(int,3000000000)"), ado::error::data_overflow);
+  EXPECT_EQ(error_of(*books, "select clng('3000000000')"), ado::error::data_overflow);
+}
+
 TEST_F(SqliteDialects, A_date_between_number_signs_is_the_text_between_apostrophes) {
   run("insert into StockBill(Id,AuditTime) values('B1',#2024-03-05 10:00:00#)");
   EXPECT_EQ(text("select AuditTime from StockBill"), "2024-03-05 10:00:00");

@@ -136,12 +136,67 @@ TEST_F(SqliteMoney, What_is_open_of_a_bill_comes_back_as_money) {
 }
 
 TEST_F(SqliteMoney, An_amount_that_cannot_be_kept_exactly_is_refused) {
-  run("insert into ZHXX(ID,YE) values('A1',900000000000)");
-  const auto refused = ado::error::constraint_violated;
+  run("insert into ZHXX(ID,YE) values('A1',274877906943.9999)");
+  const auto refused = ado::error::data_overflow;
+  EXPECT_EQ(error_of(*books, "insert into ZHXX(ID,YE) values('A2',346588483985.3027)"), refused);
+  for (const char* amount : {"274877906944", "-274877906944", "'274877906944'", "274877906943.99995", "274877906943+1",
+                             "1*274877906944.0000"}) {
+    EXPECT_EQ(error_of(*books, std::string("insert into ZHXX(ID,YE) values('A2',") + amount + ")"), refused) << amount;
+  }
   EXPECT_EQ(error_of(*books, "insert into ZHXX(ID,YE) values('A2',922337203685477.5807)"), refused);
   EXPECT_EQ(error_of(*books, "insert into ZHXX(ID,YE) values('A2',1e300)"), refused);
-  EXPECT_EQ(error_of(*books, "update ZHXX set YE=YE+900000000000"), refused);
-  EXPECT_EQ(text("select YE from ZHXX"), "900000000000");
+  EXPECT_EQ(error_of(*books, "update ZHXX set YE=YE+0.0001"), refused);
+  EXPECT_EQ(error_of(*books, "update ZHXX set YE=YE+1+2-3"), 0);
+  EXPECT_EQ(error_of(*books, "update ZHXX set YE=YE+1+2"), refused);
+  EXPECT_EQ(text("select YE from ZHXX"), "274877906943.9999");
+}
+
+TEST_F(SqliteMoney, Sums_and_differences_are_exact_up_to_the_limit) {
+  constexpr std::int64_t limit = (std::int64_t{1} << 38) * 10'000;
+  std::mt19937_64 random(8);
+  std::uniform_int_distribution<std::int64_t> any(1 - limit, limit - 1);
+  run("insert into StockBill(Id) values('B1')");
+  for (int time = 0; time < 5'000; ++time) {
+    std::int64_t paid = any(random);
+    std::int64_t close = any(random);
+    std::int64_t advance = any(random);
+    const auto written = [](std::int64_t count) { return ado::Money::from_ten_thousandths(count).text(); };
+    run("update StockBill set PaidAmount=" + written(paid) + ",CloseAmount='" + written(close) +
+        "',AdvanceAmount=" + written(advance));
+    for (const auto& [expression, sum] :
+         {std::pair{"PaidAmount", paid}, std::pair{"CloseAmount", close},
+          std::pair{"PaidAmount+CloseAmount", paid + close}, std::pair{"PaidAmount-CloseAmount", paid - close},
+          std::pair{"PaidAmount-CloseAmount-AdvanceAmount", paid - close - advance},
+          std::pair{"-PaidAmount+CloseAmount+ -AdvanceAmount", -paid + close - advance}}) {
+      const std::string select = std::string("select ") + expression + " from StockBill";
+      if (-limit < sum && sum < limit) {
+        ASSERT_EQ(value(select), ado::Value(ado::Money::from_ten_thousandths(sum))) << expression;
+      } else {
+        ASSERT_EQ(error_of(*books, select), ado::error::data_overflow) << expression;
+      }
+    }
+  }
+}
+
+TEST_F(SqliteMoney, A_total_of_many_operands_is_rounded_once) {
+  run("insert into ZHXX(ID,YE) values('A1',1)");
+  run("update ZHXX set YE=YE+0.00003+0.00003+2*0.00003-1");
+  EXPECT_EQ(text("select YE from ZHXX"), "0.0001");
+  run("update ZHXX set YE=1+2*3-YE/2");
+  EXPECT_EQ(text("select YE from ZHXX"), "7");
+  EXPECT_TRUE(value("select YE-null+1 from ZHXX").is_null());
+}
+
+TEST_F(SqliteMoney, A_sum_beyond_the_limit_is_an_overflow) {
+  for (const char* amount : {"200000000000", "74877906943.9999"}) {
+    run(std::string("insert into StockBillItems(BillId,Amount) values('B1',") + amount + ")");
+  }
+  EXPECT_EQ(value("select sum(Amount) as Total from StockBillItems"),
+            ado::Value(ado::Money::parse("274877906943.9999")));
+  run("insert into StockBillItems(BillId,Amount) values('B1',0.0001)");
+  EXPECT_EQ(error_of(*books, "select sum(Amount) as Total from StockBillItems"), ado::error::data_overflow);
+  run("insert into StockBillItems(BillId,Amount) values('B1',-0.0001)");
+  EXPECT_EQ(error_of(*books, "select sum(Amount) as Total from StockBillItems"), 0);
 }
 
 TEST_F(SqliteMoney, Text_that_is_no_amount_is_refused) {
@@ -185,10 +240,9 @@ TEST_F(SqliteSingles, Every_single_comes_back_as_it_went_in) {
 }
 
 TEST_F(SqliteSingles, A_number_too_large_for_a_single_is_refused) {
-  EXPECT_EQ(error_of(*books, "insert into StockBillItems(BillId,Qty) values('B1',1e39)"),
-            ado::error::constraint_violated);
+  EXPECT_EQ(error_of(*books, "insert into StockBillItems(BillId,Qty) values('B1',1e39)"), ado::error::data_overflow);
   run("insert into StockBillItems(BillId,Qty) values('B1',1e38)");
-  EXPECT_EQ(error_of(*books, "update StockBillItems set Qty=Qty*10"), ado::error::constraint_violated);
+  EXPECT_EQ(error_of(*books, "update StockBillItems set Qty=Qty*10"), ado::error::data_overflow);
 }
 
 }  // namespace

@@ -34,6 +34,7 @@ constexpr std::array error_texts{
     ErrorText{error::statement_refused, "语句被数据库拒绝"},
     ErrorText{error::no_such_table, "数据库中没有该表"},
     ErrorText{error::constraint_violated, "违反数据库约束"},
+    ErrorText{error::data_overflow, "数据溢出"},
     ErrorText{error::timed_out, "数据库忙或超时"},
     ErrorText{error::provider_failed, "未指定的错误"},
 };

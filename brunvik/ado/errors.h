@@ -36,6 +36,7 @@ inline constexpr Long connection_closed = 3709;
 inline constexpr Long statement_refused = static_cast<Long>(0x80040E14);
 inline constexpr Long no_such_table = static_cast<Long>(0x80040E37);
 inline constexpr Long constraint_violated = static_cast<Long>(0x80040E2F);
+inline constexpr Long data_overflow = static_cast<Long>(0x80040E57);
 inline constexpr Long timed_out = static_cast<Long>(0x80040E31);
 inline constexpr Long provider_failed = static_cast<Long>(0x80004005);
 

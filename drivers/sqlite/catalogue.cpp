@@ -3,8 +3,10 @@
 #include <sqlite3.h>
 
 #include <algorithm>
+#include <limits>
 
 #include "brunvik/ado/names.h"
+#include "brunvik/ado/types.h"
 #include "drivers/sqlite/failure.h"
 #include "drivers/sqlite/statement.h"
 
@@ -54,9 +56,29 @@ ColumnType type_of_declaration(std::string_view declaration) noexcept {
   const auto is = [word](std::string_view name) { return ado::same_name(word, name); };
   if (is("MONEY")) return ColumnType::money;
   if (is("REAL")) return ColumnType::single;
-  if (is("INTEGER") || is("INT") || is("SMALLINT") || is("TINYINT") || is("BIT")) return ColumnType::whole;
+  if (is("INTEGER") || is("INT")) return ColumnType::long_number;
+  if (is("SMALLINT")) return ColumnType::integer_number;
+  if (is("TINYINT")) return ColumnType::byte_number;
+  if (is("BIT")) return ColumnType::bit;
   if (is("TEXT") || is("CHAR") || is("VARCHAR") || is("NCHAR") || is("NVARCHAR")) return ColumnType::text;
   return ColumnType::other;
+}
+
+std::optional<WholeRange> whole_range(ColumnType type) noexcept {
+  const auto range_of = [](auto number) {
+    using Limits = std::numeric_limits<decltype(number)>;
+    return WholeRange{Limits::min(), Limits::max()};
+  };
+  switch (type) {
+    case ColumnType::byte_number:
+      return range_of(Byte{});
+    case ColumnType::integer_number:
+      return range_of(Integer{});
+    case ColumnType::long_number:
+      return range_of(Long{});
+    default:
+      return {};
+  }
 }
 
 std::optional<ColumnType> type_of_column(const TableDescription& table, std::string_view name) noexcept {

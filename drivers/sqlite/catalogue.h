@@ -1,6 +1,7 @@
 // What the database says of its columns: the declared types, found once for each table.
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <optional>
 #include <string>
@@ -17,12 +18,22 @@ enum class ColumnType {
   key,  // text with an index
   money,
   single,
-  whole,
+  byte_number,
+  integer_number,  // 16 bits
+  long_number,     // 32 bits
+  bit,
   other,
 };
 
 // By the words of the declaration: MONEY, REAL, INTEGER, SMALLINT, TINYINT, BIT, TEXT and their like.
 ColumnType type_of_declaration(std::string_view declaration) noexcept;
+
+// The lowest and the highest whole number that a column of a type holds; none for a type that isn't bounded so.
+struct WholeRange {
+  std::int64_t low;
+  std::int64_t high;
+};
+std::optional<WholeRange> whole_range(ColumnType type) noexcept;
 
 struct ColumnDescription {
   std::string name;

@@ -46,8 +46,9 @@ class Connection final : public ado::Connection {
   explicit Connection(std::unique_ptr<Engine> engine);
   ~Connection() override;
 
-  // Beside the errors of every connection: an amount that no money column can keep exactly (from
-  // ±900,719,925,474.0992 on) is constraint_violated.
+  // Beside the errors of every connection: data_overflow where a number has no place in its column, a whole number of
+  // more than its width, a single out of range, or an amount that can't be kept exactly (from ±274,877,906,944 on);
+  // and where a sum or a difference of money has none.
   ado::Recordset Execute(std::string_view CommandText) override;
   Long State() const noexcept override { return engine_ ? 1 : 0; }
 

@@ -16,7 +16,10 @@ Arithmetic kind_of_type(ColumnType type) {
   switch (type) {
     case ColumnType::money:
       return Arithmetic::money;
-    case ColumnType::whole:
+    case ColumnType::byte_number:
+    case ColumnType::integer_number:
+    case ColumnType::long_number:
+    case ColumnType::bit:
       return Arithmetic::neutral;
     default:
       return Arithmetic::other;
@@ -144,6 +147,19 @@ Run Expressions::run_at(std::size_t first, std::size_t end) const {
     ++run.operators;
   }
   return run;
+}
+
+std::vector<Term> Expressions::terms(std::size_t first, std::size_t end) const {
+  std::vector<Term> terms{{first, first, false}};
+  while (terms.back().end < end) {
+    const std::size_t symbol = terms.back().end;
+    if (symbol != first && is_sign(tokens_[symbol])) {
+      terms.push_back({symbol + 1, end_of_operand(symbol + 1, end), tokens_[symbol].is_symbol("-")});
+    } else {
+      terms.back().end = end_of_operand(symbol == first ? first : symbol + 1, end);
+    }
+  }
+  return terms;
 }
 
 Arithmetic Expressions::kind_of(std::size_t first, std::size_t end) const {

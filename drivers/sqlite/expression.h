@@ -23,6 +23,13 @@ struct Run {
   Arithmetic kind;
 };
 
+// Of a run: operands joined by * and /, which are added to the others or taken away from them.
+struct Term {
+  std::size_t first;
+  std::size_t end;
+  bool taken_away;
+};
+
 class Expressions {
  public:
   // Throws std::invalid_argument where brackets are nested too deeply.
@@ -38,6 +45,9 @@ class Expressions {
   std::size_t find(std::size_t first, std::size_t end, std::span<const std::string_view> words) const;
 
   Run run_at(std::size_t first, std::size_t end) const;
+
+  // `end` is the end of the run that begins at `first`.
+  std::vector<Term> terms(std::size_t first, std::size_t end) const;
 
   // Of a whole range: `other` where it is more than one run.
   Arithmetic kind_of(std::size_t first, std::size_t end) const;

@@ -8,11 +8,14 @@
 
 namespace brunvik::sqlite {
 
+const int number_too_large = SQLITE_CONSTRAINT_FUNCTION;
+
 namespace {
 
 namespace error = ado::error;
 
 Long number_of(int code, Stage stage, std::string_view engine_text) {
+  if (code == number_too_large) return error::data_overflow;
   switch (code & 0xff) {
     case SQLITE_BUSY:
     case SQLITE_LOCKED:

@@ -42,7 +42,42 @@ void money(sqlite3_context* context, int, sqlite3_value** arguments) {
   const int type = sqlite3_value_numeric_type(value);
   if (type != SQLITE_INTEGER && type != SQLITE_FLOAT) return sqlite3_result_value(context, value);
   if (const Amount amount = amount_of(sqlite3_value_double(value))) return give_amount(context, *amount);
-  fail(context, "The amount is too large to be kept exactly.", SQLITE_CONSTRAINT_FUNCTION);
+  fail(context, "The amount is too large to be kept exactly.", number_too_large);
+}
+
+void total(sqlite3_context* context, int count, sqlite3_value** arguments) {
+  AmountTotal total;
+  for (int place = 0; place < count; ++place) {
+    if (sqlite3_value_type(arguments[place]) == SQLITE_NULL) return;
+    total.add(sqlite3_value_double(arguments[place]));
+  }
+  if (const Amount amount = total.amount()) return give_amount(context, *amount);
+  fail(context, "The amount is too large to be kept exactly.", number_too_large);
+}
+
+// within(x, low, high)
+void within(sqlite3_context* context, int, sqlite3_value** arguments) {
+  sqlite3_value* const value = arguments[0];
+  const std::int64_t low = sqlite3_value_int64(arguments[1]);
+  const std::int64_t high = sqlite3_value_int64(arguments[2]);
+  bool fits = true;
+  // What is no number stays as it is, and the column refuses it.
+  switch (sqlite3_value_numeric_type(value)) {
+    case SQLITE_INTEGER: {
+      const std::int64_t number = sqlite3_value_int64(value);
+      fits = low <= number && number <= high;
+      break;
+    }
+    case SQLITE_FLOAT: {
+      const double number = sqlite3_value_double(value);
+      fits = static_cast<double>(low) <= number && number <= static_cast<double>(high);
+      break;
+    }
+    default:
+      break;
+  }
+  if (fits) return sqlite3_result_value(context, value);
+  fail(context, "The column can't keep a whole number as large as that.", number_too_large);
 }
 
 void single(sqlite3_context* context, int, sqlite3_value** arguments) {
@@ -51,7 +86,7 @@ void single(sqlite3_context* context, int, sqlite3_value** arguments) {
   if (type != SQLITE_INTEGER && type != SQLITE_FLOAT) return sqlite3_result_value(context, value);
   const double rounded = single_of(sqlite3_value_double(value));
   if (std::isfinite(rounded)) return sqlite3_result_double(context, rounded);
-  fail(context, "The number is too large for a single.", SQLITE_CONSTRAINT_FUNCTION);
+  fail(context, "The number is too large for a single.", number_too_large);
 }
 
 // The number that a value is or that its text names; empty after an error or for null.
@@ -71,13 +106,16 @@ void give_long(sqlite3_context* context, double value) {
   if (std::fabs(value) < 0x1p31 || value == -0x1p31) {
     return sqlite3_result_int64(context, static_cast<std::int64_t>(value));
   }
-  fail(context, "The number has no place in 32 bits.", SQLITE_MISMATCH);
+  fail(context, "The number has no place in 32 bits.", number_too_large);
 }
 
 void whole(sqlite3_context* context, int, sqlite3_value** arguments) {
+  // The dialect that has this conversion reads a text of blanks as zero.
+  const bool is_text = sqlite3_value_type(arguments[0]) == SQLITE_TEXT;
+  if (is_text && ado::trimmed_number(text_of(arguments[0])).empty()) return give_long(context, 0);
   const auto value = number(context, arguments[0]);
   if (!value) return;
-  if (sqlite3_value_type(arguments[0]) == SQLITE_TEXT && std::trunc(*value) != *value) {
+  if (is_text && std::trunc(*value) != *value) {
     return fail(context, "The text is no whole number.", SQLITE_MISMATCH);
   }
   give_long(context, std::trunc(*value));
@@ -111,7 +149,7 @@ void add_to_sum(sqlite3_context* context, int, sqlite3_value** arguments) {
 void give_sum(sqlite3_context* context) {
   const auto* const sum = static_cast<const Sum*>(sqlite3_aggregate_context(context, 0));
   if (!sum || !sum->any) return;
-  if (sum->too_large) return fail(context, "The sum is too large for money.", SQLITE_CONSTRAINT_FUNCTION);
+  if (sum->too_large || !is_kept(sum->count)) return fail(context, "The sum is too large for money.", number_too_large);
   give_amount(context, sum->count);
 }
 
@@ -127,7 +165,9 @@ void add_functions(sqlite3* database) {
                                      nullptr));
   };
   add(money_function, 1, money);
+  add(total_function, -1, total);
   add(single_function, 1, single);
+  add(within_function, 3, within);
   add(whole_function, 1, whole);
   add(long_function, 1, rounded_long);
   add("regexp", 2, regexp);

@@ -5,6 +5,7 @@
 #include <span>
 #include <stdexcept>
 
+#include "drivers/sqlite/assignment.h"
 #include "drivers/sqlite/expression.h"
 #include "drivers/sqlite/failure.h"
 #include "drivers/sqlite/functions.h"
@@ -177,16 +178,14 @@ class Rewriter {
 
   // An expression whose value goes into a column.
   void assign(std::size_t first, std::size_t end, ColumnType type) {
-    const bool as_it_is = type == ColumnType::other || type == ColumnType::whole || type == ColumnType::text;
+    const bool as_it_is = type == ColumnType::other || type == ColumnType::bit || type == ColumnType::text;
     if (first == end || as_it_is) return range(first, end);
     std::size_t bare = first;
-    while (bare < end && is_sign(tokens_[bare]) && type != ColumnType::key) ++bare;
+    while (bare < end && is_sign(tokens_[bare]) && is_symmetric(type)) ++bare;
     if (bare + 1 == end) {
       const Token& token = tokens_[bare];
       if (token.kind == TokenKind::parameter) {
-        result_.targets[token.parameter] = type == ColumnType::key     ? Target::key
-                                           : type == ColumnType::money ? Target::money
-                                                                       : Target::single;
+        result_.targets[token.parameter] = target_of(type);
         return range(first, end);
       }
       if (token.is("null")) return range(first, end);
@@ -194,16 +193,20 @@ class Rewriter {
     const bool is_column =
         tokens_[first].is_name() && !is_keyword(tokens_[first]) && expressions_.end_of_path(first, end) == end;
     if (is_column && expressions_.type_of_path(first, end) == type) return range(first, end);
-    out_.write(type == ColumnType::key     ? "rtrim("
-               : type == ColumnType::money ? money_function
-                                           : single_function,
-               tokens_[first].blank_before);
-    if (type != ColumnType::key) out_.write("(", false);
     const Run run = expressions_.run_at(first, end);
-    if (run.end == end) {
+    const bool is_run = run.end == end;
+    if (is_run && type == ColumnType::money && run.kind != Arithmetic::other && is_total(first, run)) {
+      return total(first, run);
+    }
+    out_.write(function_of(type), tokens_[first].blank_before);
+    out_.write("(", false);
+    if (is_run) {
       operands(first, end, run.kind == Arithmetic::money);
     } else {
       range(first, end);
+    }
+    if (const auto range = whole_range(type)) {
+      out_.write("," + std::to_string(range->low) + "," + std::to_string(range->high), false);
     }
     out_.write(")", false);
   }
@@ -265,12 +268,32 @@ class Rewriter {
 
   void arithmetic(std::size_t first, const Run& run) {
     const bool exact = run.operators != 0 && run.kind == Arithmetic::money;
+    if (exact && is_total(first, run)) return total(first, run);
     if (exact) {
       out_.write(money_function, tokens_[first].blank_before);
       out_.write("(", false);
     }
     operands(first, run.end, run.kind == Arithmetic::money);
     if (exact) out_.write(")", false);
+  }
+
+  // One sum or one difference of two amounts is exact when it is rounded; in more of them the doubles' own rounding
+  // could add up.
+  bool is_total(std::size_t first, const Run& run) const {
+    return run.operators > 1 && expressions_.terms(first, run.end).size() > 1;
+  }
+
+  void total(std::size_t first, const Run& run) {
+    std::string_view separator = "(";
+    out_.write(total_function, tokens_[first].blank_before);
+    for (const Term& term : expressions_.terms(first, run.end)) {
+      out_.write(separator, false);
+      if (term.taken_away) out_.write("-(", false);
+      operands(term.first, term.end, run.kind == Arithmetic::money);
+      if (term.taken_away) out_.write(")", false);
+      separator = ",";
+    }
+    out_.write(")", false);
   }
 
   void operands(std::size_t place, std::size_t end, bool on_money) {

@@ -16,7 +16,7 @@
 namespace brunvik::sqlite {
 
 // What a cut-out value becomes when it is bound.
-enum class Target : unsigned char { plain, key, money, single };
+enum class Target : unsigned char { plain, key, money, single, byte_number, integer_number, long_number };
 
 // What the engine can't tell of a column that is no column of a table.
 struct SelectedColumn {

@@ -15,7 +15,10 @@ namespace {
 constexpr std::int64_t scale = ado::Money::scale;
 
 // Up to here every whole count is a double.
-constexpr std::int64_t largest_amount = std::int64_t{1} << 53;
+constexpr std::int64_t largest_whole_double = std::int64_t{1} << 53;
+
+// Below this every decimal of four places is named by a double of its own, and found again by multiplying.
+constexpr std::int64_t end_of_amounts = (std::int64_t{1} << 38) * scale;
 
 constexpr std::array<std::int64_t, 19> powers = [] {
   std::array<std::int64_t, 19> list{1};
@@ -26,16 +29,56 @@ constexpr std::array<std::int64_t, 19> powers = [] {
 constexpr bool is_digit(char c) { return c >= '0' && c <= '9'; }
 
 Amount kept(std::int64_t count) noexcept {
-  if (count < -largest_amount || count > largest_amount) return {};
+  if (!is_kept(count)) return {};
   return count;
+}
+
+// A value in ten-thousandths: the nearest whole count, and what is left of it.
+struct Count {
+  double whole;
+  double fraction;
+};
+
+// Counts from here on are multiplied out, since the product is rounded too coarsely to tell the nearest one.
+constexpr double large_count = 0x1p48;
+
+Count count_of(double value) noexcept {
+  const double product = value * static_cast<double>(scale);
+  const double whole = std::nearbyint(product);
+  if (std::fabs(whole) < large_count) return {whole, product - whole};
+  const double fraction = std::fma(value, static_cast<double>(scale), -whole);
+  const double step = fraction > 0.5 ? 1 : fraction < -0.5 ? -1 : 0;
+  return {whole + step, fraction - step};
 }
 
 }  // namespace
 
+bool is_kept(std::int64_t ten_thousandths) noexcept {
+  return -end_of_amounts < ten_thousandths && ten_thousandths < end_of_amounts;
+}
+
 Amount amount_of(double value) noexcept {
-  const double count = std::nearbyint(value * static_cast<double>(scale));
-  if (!(std::fabs(count) <= static_cast<double>(largest_amount))) return {};
+  const double count = count_of(value).whole;
+  if (!(std::fabs(count) < static_cast<double>(end_of_amounts))) return {};
   return static_cast<std::int64_t>(count);
+}
+
+void AmountTotal::add(double value) noexcept {
+  const Count count = count_of(value);
+  count_ += count.whole;
+  too_large_ = too_large_ || !(std::fabs(count_) < static_cast<double>(largest_whole_double));
+  // What is left of an amount is how far the double lies from its decimal.
+  constexpr double nearest = 0x1p-51;
+  if (std::fabs(count.fraction) > std::fabs(count.whole) * nearest) fraction_ += count.fraction;
+}
+
+Amount AmountTotal::amount() const noexcept {
+  if (too_large_) return {};
+  double whole = count_ + std::floor(fraction_);
+  const double rest = fraction_ - std::floor(fraction_);
+  if (rest > 0.5 || (rest == 0.5 && std::fmod(whole, 2) != 0)) whole += 1;
+  if (!(std::fabs(whole) < static_cast<double>(end_of_amounts))) return {};
+  return static_cast<std::int64_t>(whole);
 }
 
 double double_of_amount(std::int64_t ten_thousandths) noexcept {
@@ -96,7 +139,7 @@ std::optional<Decimal> Decimal::read(std::string_view text) noexcept {
 
 double Decimal::to_double() const noexcept {
   // Both sides are exact as doubles, so that the quotient is the nearest one.
-  if (short_ && digits_ <= largest_amount) {
+  if (short_ && digits_ <= largest_whole_double) {
     return static_cast<double>(digits_) / static_cast<double>(powers[static_cast<std::size_t>(places_)]);
   }
   double value = 0;
@@ -121,8 +164,8 @@ Amount Decimal::amount() const noexcept {
   }
   if (places_ <= 4) {
     const std::int64_t factor = powers[static_cast<std::size_t>(4 - places_)];
-    if (digits_ > largest_amount / factor) return {};
-    return digits_ * factor;
+    if (digits_ > end_of_amounts / factor) return {};
+    return kept(digits_ * factor);
   }
   const std::int64_t divisor = powers[static_cast<std::size_t>(places_ - 4)];
   std::int64_t count = digits_ / divisor;

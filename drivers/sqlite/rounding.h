@@ -11,11 +11,26 @@
 
 namespace brunvik::sqlite {
 
-// A count of ten-thousandths, empty where a double can't keep it exactly.
+// A count of ten-thousandths, empty where a double can't keep it exactly: from ±274,877,906,944 on, that is 2^38, the
+// doubles lie so far apart that one may name its neighbour.
 using Amount = std::optional<std::int64_t>;
+
+bool is_kept(std::int64_t ten_thousandths) noexcept;
 
 Amount amount_of(double value) noexcept;
 double double_of_amount(std::int64_t ten_thousandths) noexcept;
+
+// A total of amounts and of other numbers, rounded once, at its end.
+class AmountTotal {
+ public:
+  void add(double value) noexcept;
+  Amount amount() const noexcept;
+
+ private:
+  double count_ = 0;  // whole, and exact up to 2^53
+  double fraction_ = 0;
+  bool too_large_ = false;
+};
 
 // The value of a column of singles; infinite outside of the range of a single.
 double single_of(double value) noexcept;

@@ -4,6 +4,7 @@
 
 #include "brunvik/ado/errors.h"
 #include "brunvik/ado/numbers.h"
+#include "drivers/sqlite/assignment.h"
 #include "drivers/sqlite/rounding.h"
 
 namespace brunvik::sqlite {
@@ -16,7 +17,7 @@ std::string_view without_trailing_blanks(std::string_view text) {
 }
 
 [[noreturn]] void refuse_number(std::string_view number, std::string_view statement) {
-  throw ado::RuntimeError(ado::error::constraint_violated,
+  throw ado::RuntimeError(ado::error::data_overflow,
                           "The column can't keep a number as large as " + std::string(number) + ".",
                           std::string(statement));
 }
@@ -100,6 +101,13 @@ void Shape::bind_number(int place, std::string_view digits, bool negative, Targe
     if (!amount) refuse_number(digits, text);
     if (*amount % ado::Money::scale == 0) return bind_whole(*amount / ado::Money::scale);
     return bind_double(double_of_amount(*amount));
+  }
+  if (const auto range = whole_range(target)) {
+    const double value = negative ? -number.to_double() : number.to_double();
+    if (value < static_cast<double>(range->low) || value > static_cast<double>(range->high)) {
+      refuse_number(digits, text);
+    }
+    target = Target::plain;
   }
   constexpr std::int64_t exact_as_single = 1 << 24;
   if (number.is_whole() && (target == Target::plain || number.whole() <= exact_as_single)) {
