@@ -94,7 +94,7 @@ TEST_F(SqliteRefusals, Parentheses_without_end_or_without_measure) {
 
 TEST_F(SqliteRefusals, A_refused_statement_has_changed_nothing) {
   run("insert into ZHXX(ID,YE) values('a',1)");
-  run("insert into ZHXX(ID,YE) values('b',250000000000)");
+  run("insert into ZHXX(ID,YE) values('b',500000000000)");
   EXPECT_EQ(error_of(*books, "update ZHXX set YE=YE+50000000000"), ado::error::data_overflow);
   EXPECT_EQ(text("select YE from ZHXX where ID='a'"), "1");
 }

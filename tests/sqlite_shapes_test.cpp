@@ -50,6 +50,37 @@ TEST_F(SqliteShapes, An_endless_text_is_carried_out_and_not_kept) {
   }
 }
 
+TEST_F(SqliteShapes, A_large_value_takes_no_memory_for_good) {
+  const std::string value = "'" + std::string(400'000, '\'') + "'";
+  const std::size_t before = books->held_bytes();
+  run("insert into Warehouse(Id,WName) values('W1'," + value + ")");
+  run("update Warehouse set WName=" + value + " where Id='W1'");
+  run("delete from Warehouse where WName=" + value);
+  EXPECT_NE(error_of(*books, "insert into Warehouse(Id,WName) values(null," + value + ")"), 0);
+  EXPECT_NE(error_of(*books, "insert into Warehouse(Id,WName) values('W2'," + value + " where"), 0);
+  EXPECT_NE(error_of(*books, "insert into Warehouse(Id,WName) values('W2'," + value + "'"), 0);
+  std::string list = "1";
+  for (int number = 0; number < 20'000; ++number) list += ",1";
+  EXPECT_EQ(count("select count(*) from StockBill where Type in (" + list + ")"), 0);
+  EXPECT_LT(books->held_bytes(), before + 200'000);
+}
+
+TEST_F(SqliteShapes, Large_shapes_are_dropped_before_they_fill_the_memory) {
+  std::string list = "1";
+  for (int number = 0; number < 10'000; ++number) list += ",1";
+  const std::size_t shapes = books->cached_statements();
+  for (int length = 0; length < 24; ++length) {
+    list += ",1";
+    EXPECT_EQ(count("select count(*) from StockBill where Type in (" + list + ")"), 0);
+  }
+  EXPECT_LE(books->held_bytes(), 16U * 1'024 * 1'024);
+  EXPECT_GT(books->cached_statements(), shapes);
+  EXPECT_LT(books->cached_statements(), shapes + 24);
+  run("alter table Warehouse add column Area REAL");
+  EXPECT_EQ(count("select count(*) from StockBill where Type in (" + list + ")"), 0);
+  EXPECT_LT(books->held_bytes(), 3'000'000U);
+}
+
 TEST_F(SqliteShapes, A_change_of_the_tables_is_seen_by_statements_that_are_kept) {
   const auto other = open(path());
   const std::string all = "select * from Warehouse where Id='W1'";

@@ -22,6 +22,8 @@ void Connection::Close() noexcept { engine_.reset(); }
 
 std::size_t Connection::cached_statements() const noexcept { return engine_ ? engine_->cached_statements() : 0; }
 
+std::size_t Connection::held_bytes() const noexcept { return engine_ ? engine_->held_bytes() : 0; }
+
 std::shared_ptr<Connection> open(const std::string& path, const Options& options) {
   return std::make_shared<Connection>(std::make_unique<Engine>(path, options));
 }

@@ -47,7 +47,7 @@ class Connection final : public ado::Connection {
   ~Connection() override;
 
   // Beside the errors of every connection: data_overflow where a number has no place in its column, a whole number of
-  // more than its width, a single out of range, or an amount that can't be kept exactly (from ±274,877,906,944 on);
+  // more than its width, a single out of range, or an amount that can't be kept exactly (from ±549,755,813,888 on);
   // and where a sum or a difference of money has none.
   ado::Recordset Execute(std::string_view CommandText) override;
   Long State() const noexcept override { return engine_ ? 1 : 0; }
@@ -57,6 +57,10 @@ class Connection final : public ado::Connection {
 
   // How many shapes of statements are kept prepared now.
   std::size_t cached_statements() const noexcept;
+
+  // How many bytes are held between two statements: those of the statements that are kept prepared, which are dropped
+  // when they take more than 16 MiB, and the room for the next statement's values.
+  std::size_t held_bytes() const noexcept;
 
  private:
   std::unique_ptr<Engine> engine_;

@@ -7,6 +7,7 @@
 #include "brunvik/ado/names.h"
 #include "drivers/sqlite/characters.h"
 #include "drivers/sqlite/failure.h"
+#include "drivers/sqlite/memory.h"
 
 namespace brunvik::sqlite {
 
@@ -210,6 +211,14 @@ bool Cutter::cut(std::string_view statement) {
   copy_until(end);
   length_ = static_cast<std::size_t>(out - shape_.data());
   return true;
+}
+
+void Cutter::let_go() noexcept {
+  if (held_bytes() <= largest_held) return;
+  length_ = 0;
+  // An assignment would keep the room.
+  std::string().swap(shape_);
+  std::vector<Literal>().swap(literals_);
 }
 
 }  // namespace brunvik::sqlite

@@ -34,6 +34,12 @@ class Cutter {
   std::string_view shape() const noexcept { return {shape_.data(), length_}; }
   std::span<const Literal> literals() const noexcept { return literals_; }
 
+  // The bytes that are held for the next cut.
+  std::size_t held_bytes() const noexcept { return shape_.capacity() + literals_.capacity() * sizeof(Literal); }
+
+  // Ends the last cut, and lets go of what only an uncommonly large statement needs.
+  void let_go() noexcept;
+
  private:
   std::string shape_;
   std::size_t length_ = 0;

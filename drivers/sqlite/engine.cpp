@@ -7,6 +7,7 @@
 #include "drivers/sqlite/collation.h"
 #include "drivers/sqlite/failure.h"
 #include "drivers/sqlite/functions.h"
+#include "drivers/sqlite/memory.h"
 
 namespace brunvik::sqlite {
 
@@ -66,12 +67,16 @@ ado::Recordset Engine::execute(std::string_view text) {
   if (text.size() > static_cast<std::size_t>(sqlite3_limit(database_.get(), SQLITE_LIMIT_SQL_LENGTH, -1))) {
     throw ado::RuntimeError(ado::error::provider_failed, "The statement is too long.");
   }
+  const AtEnd let_go([this]() noexcept {
+    unkept_.reset();
+    cutter_.let_go();
+  });
   if (!cutter_.cut(text)) return execute_as_it_stands(text);
   constexpr int tries = 10;
   int code = SQLITE_SCHEMA;
   for (int time = 0; time < tries && code == SQLITE_SCHEMA; ++time) {
     ado::Recordset result;
-    code = shape(text).run(cutter_.literals(), text, result);
+    code = shape_of(text).run(cutter_.literals(), text, result);
     if (code == SQLITE_DONE) return result;
     if (code == SQLITE_SCHEMA) {
       // What was known of the tables went into the rewriting of every shape.
@@ -82,7 +87,7 @@ ado::Recordset Engine::execute(std::string_view text) {
   raise_failure(database_.get(), code, Stage::running, text);
 }
 
-Shape& Engine::shape(std::string_view text) {
+Shape& Engine::shape_of(std::string_view text) {
   if (Shape* const known = shapes_.find(cutter_.shape())) return *known;
   // A text of this length is no statement of the books, and would not come again.
   constexpr std::size_t longest_kept = 32'768;

@@ -26,6 +26,7 @@ class Engine {
 
   ado::Recordset execute(std::string_view text);
   std::size_t cached_statements() const noexcept { return shapes_.size(); }
+  std::size_t held_bytes() const noexcept { return cutter_.held_bytes() + shapes_.held_bytes(); }
 
  private:
   struct Close {
@@ -35,7 +36,7 @@ class Engine {
   // A statement that doesn't work on rows goes to the engine as it stands.
   ado::Recordset execute_as_it_stands(std::string_view text);
 
-  Shape& shape(std::string_view text);
+  Shape& shape_of(std::string_view text);
   Shape prepare_shape(std::string_view text);
 
   // Counts the changes of the tables, by whatever connection.

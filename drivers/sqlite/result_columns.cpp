@@ -1,10 +1,17 @@
 #include <limits>
 
+#include "drivers/sqlite/rounding.h"
 #include "drivers/sqlite/shape.h"
 
 namespace brunvik::sqlite {
 
 namespace {
+
+ado::Money money_of(double value) {
+  const Amount amount = amount_of(value);
+  // Only an amount that another program wrote is larger than the driver's own.
+  return amount ? ado::Money::from_ten_thousandths(*amount) : ado::Money::from_double(value);
+}
 
 void add_whole(std::vector<ado::Value>& cells, std::int64_t value) {
   if (value >= std::numeric_limits<Long>::min() && value <= std::numeric_limits<Long>::max()) {
@@ -32,7 +39,7 @@ void add_value(std::vector<ado::Value>& cells, sqlite3_value* field, ColumnType 
     case SQLITE_FLOAT: {
       const double value = sqlite3_value_double(field);
       if (type == ColumnType::money) {
-        cells.emplace_back(ado::Money::from_double(value));
+        cells.emplace_back(money_of(value));
       } else if (type == ColumnType::single) {
         cells.emplace_back(static_cast<Single>(value));
       } else {

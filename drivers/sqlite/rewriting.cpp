@@ -277,10 +277,9 @@ class Rewriter {
     if (exact) out_.write(")", false);
   }
 
-  // One sum or one difference of two amounts is exact when it is rounded; in more of them the doubles' own rounding
-  // could add up.
+  // A sum of large doubles is farther from the amount than the doubles themselves.
   bool is_total(std::size_t first, const Run& run) const {
-    return run.operators > 1 && expressions_.terms(first, run.end).size() > 1;
+    return run.operators != 0 && expressions_.terms(first, run.end).size() > 1;
   }
 
   void total(std::size_t first, const Run& run) {

@@ -17,8 +17,8 @@ constexpr std::int64_t scale = ado::Money::scale;
 // Up to here every whole count is a double.
 constexpr std::int64_t largest_whole_double = std::int64_t{1} << 53;
 
-// Below this every decimal of four places is named by a double of its own, and found again by multiplying.
-constexpr std::int64_t end_of_amounts = (std::int64_t{1} << 38) * scale;
+// Below this every decimal of four places has a double of its own.
+constexpr std::int64_t end_of_amounts = (std::int64_t{1} << 39) * scale;
 
 constexpr std::array<std::int64_t, 19> powers = [] {
   std::array<std::int64_t, 19> list{1};
@@ -65,20 +65,24 @@ Amount amount_of(double value) noexcept {
 
 void AmountTotal::add(double value) noexcept {
   const Count count = count_of(value);
-  count_ += count.whole;
-  too_large_ = too_large_ || !(std::fabs(count_) < static_cast<double>(largest_whole_double));
+  constexpr double far_too_large = 0x1p62;
+  if (!(std::fabs(count.whole) < far_too_large) ||
+      __builtin_add_overflow(count_, static_cast<std::int64_t>(count.whole), &count_)) {
+    too_large_ = true;
+    return;
+  }
   // What is left of an amount is how far the double lies from its decimal.
   constexpr double nearest = 0x1p-51;
   if (std::fabs(count.fraction) > std::fabs(count.whole) * nearest) fraction_ += count.fraction;
 }
 
 Amount AmountTotal::amount() const noexcept {
-  if (too_large_) return {};
-  double whole = count_ + std::floor(fraction_);
-  const double rest = fraction_ - std::floor(fraction_);
-  if (rest > 0.5 || (rest == 0.5 && std::fmod(whole, 2) != 0)) whole += 1;
-  if (!(std::fabs(whole) < static_cast<double>(end_of_amounts))) return {};
-  return static_cast<std::int64_t>(whole);
+  const double whole = std::floor(fraction_);
+  const double rest = fraction_ - whole;
+  std::int64_t count = 0;
+  if (too_large_ || __builtin_add_overflow(count_, static_cast<std::int64_t>(whole), &count)) return {};
+  if (rest > 0.5 || (rest == 0.5 && count % 2 != 0)) ++count;
+  return kept(count);
 }
 
 double double_of_amount(std::int64_t ten_thousandths) noexcept {

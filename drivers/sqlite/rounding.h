@@ -11,8 +11,8 @@
 
 namespace brunvik::sqlite {
 
-// A count of ten-thousandths, empty where a double can't keep it exactly: from ±274,877,906,944 on, that is 2^38, the
-// doubles lie so far apart that one may name its neighbour.
+// A count of ten-thousandths, empty where a double can't keep it exactly: from ±549,755,813,888 on, that is 2^39, the
+// doubles lie farther apart than two amounts.
 using Amount = std::optional<std::int64_t>;
 
 bool is_kept(std::int64_t ten_thousandths) noexcept;
@@ -27,7 +27,7 @@ class AmountTotal {
   Amount amount() const noexcept;
 
  private:
-  double count_ = 0;  // whole, and exact up to 2^53
+  std::int64_t count_ = 0;
   double fraction_ = 0;
   bool too_large_ = false;
 };

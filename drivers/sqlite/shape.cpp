@@ -5,6 +5,7 @@
 #include "brunvik/ado/errors.h"
 #include "brunvik/ado/numbers.h"
 #include "drivers/sqlite/assignment.h"
+#include "drivers/sqlite/memory.h"
 #include "drivers/sqlite/rounding.h"
 
 namespace brunvik::sqlite {
@@ -27,8 +28,17 @@ std::string_view without_trailing_blanks(std::string_view text) {
 Shape::Shape(Statement statement, Rewritten rewritten)
     : statement_(std::move(statement)), targets_(std::move(rewritten.targets)), columns_(statement_.get(), rewritten) {}
 
+std::size_t Shape::held_bytes() const noexcept {
+  constexpr int leave_the_counter = 0;
+  const int statement = sqlite3_stmt_status(statement_.get(), SQLITE_STMTSTATUS_MEMUSED, leave_the_counter);
+  return static_cast<std::size_t>(statement) + plain_texts_.capacity();
+}
+
 int Shape::run(std::span<const Literal> literals, std::string_view text, ado::Recordset& result) {
   sqlite3_stmt* const statement = statement_.get();
+  const AtEnd let_go([this]() noexcept {
+    if (plain_texts_.capacity() > largest_held) std::string().swap(plain_texts_);
+  });
   bind(literals, text);
   int code = sqlite3_step(statement);
   if (columns_.empty()) {

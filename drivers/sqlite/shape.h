@@ -39,6 +39,9 @@ class Shape {
   // statement for the errors that are found in the values themselves.
   int run(std::span<const Literal> literals, std::string_view text, ado::Recordset& result);
 
+  // The bytes that the prepared statement takes, with the room for its values.
+  std::size_t held_bytes() const noexcept;
+
  private:
   void bind(std::span<const Literal> literals, std::string_view text);
   void bind_text(int place, const Literal& literal, Target target, std::string_view text);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstring>
 
+#include "drivers/sqlite/memory.h"
+
 namespace brunvik::sqlite {
 
 namespace {
@@ -41,16 +43,30 @@ Shape* ShapeCache::find(std::string_view text) {
 Shape& ShapeCache::add(std::string_view text, Shape shape) {
   const std::uint64_t hash = hash_of(text);
   // Another text of the same hash gives way.
-  entries_.erase(hash);
-  if (entries_.size() >= capacity_) drop_oldest();
-  return entries_.try_emplace(hash, Entry{std::string(text), std::move(shape), ++now_}).first->second.shape;
+  drop(hash);
+  const std::size_t bytes = text.size() + shape.held_bytes();
+  while (!entries_.empty() && (entries_.size() >= capacity_ || held_bytes_ + bytes > largest_cache)) drop_oldest();
+  held_bytes_ += bytes;
+  return entries_.try_emplace(hash, Entry{std::string(text), std::move(shape), ++now_, bytes}).first->second.shape;
+}
+
+void ShapeCache::clear() noexcept {
+  entries_.clear();
+  held_bytes_ = 0;
+}
+
+void ShapeCache::drop(std::uint64_t hash) {
+  const auto entry = entries_.find(hash);
+  if (entry == entries_.end()) return;
+  held_bytes_ -= entry->second.bytes;
+  entries_.erase(entry);
 }
 
 void ShapeCache::drop_oldest() {
   const auto oldest = std::min_element(entries_.begin(), entries_.end(), [](const auto& left, const auto& right) {
     return left.second.used < right.second.used;
   });
-  if (oldest != entries_.end()) entries_.erase(oldest);
+  if (oldest != entries_.end()) drop(oldest->first);
 }
 
 }  // namespace brunvik::sqlite
