@@ -5,6 +5,7 @@
 #include "brunvik/ado/errors.h"
 #include "drivers/sqlite/connection.h"
 #include "schema/ddl.h"
+#include "schema/tables.h"
 
 namespace brunvik::host {
 
@@ -19,9 +20,15 @@ std::string path_in(const std::string& address) {
   return address.substr(scheme.size());
 }
 
+std::vector<std::string> names_of_tables() {
+  std::vector<std::string> names;
+  for (const schema::Table& table : schema::tables()) names.emplace_back(table.name);
+  return names;
+}
+
 ado::ConnectionReference opened(const std::string& path, bool create) {
   try {
-    return sqlite::open(path, {.create = create});
+    return sqlite::open(path, {.create = create, .known_tables = names_of_tables()});
   } catch (const ado::RuntimeError& failure) {
     throw ado::RuntimeError(failure.number(), "the database '" + path + "' can't be opened: " + failure.description());
   }

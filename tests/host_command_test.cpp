@@ -81,14 +81,32 @@ TEST(HostCommand, Creating_an_existing_database_leaves_it_alone) {
             "{\"line\":1,\"columns\":[\"n\"],\"rows\":[[1]]}\n");
 }
 
-TEST(HostCommand, A_database_that_holds_anything_else_gets_no_tables) {
+TEST(HostCommand, A_database_of_another_program_is_refused_and_stays_as_it_is) {
   const Folder folder;
-  const std::string books = "sqlite:" + folder.file("other.db");
-  std::ofstream(folder.file("other.db")).close();
-  brunvik({"run", "--db", books}, "{\"do\":\"sql\",\"text\":\"create table mine(id text)\"}\n");
-  EXPECT_EQ(
-      brunvik({"run", "--db", books, "--create"}, "{\"do\":\"sql\",\"text\":\"select name from sqlite_master\"}\n").out,
-      "{\"line\":1,\"columns\":[\"name\"],\"rows\":[[\"mine\"]]}\n");
+  const std::string path = folder.file("other.db");
+  const auto expect_refused = [&path](const std::vector<std::string>& arguments) {
+    const std::string before = content_of(path);
+    const Ended ended = brunvik(arguments, count_of_goods);
+    EXPECT_EQ(ended.status, 1);
+    EXPECT_EQ(ended.out, "");
+    EXPECT_EQ(ended.error, "brunvik: the database '" + path +
+                               "' can't be opened: There is none of the books' tables in '" + path +
+                               "', which stays as it is.\n");
+    EXPECT_EQ(content_of(path), before);
+  };
+  std::ofstream(path).close();
+  expect_refused({"run", "--db", "sqlite:" + path});
+  {
+    const auto other = sqlite::open(path);
+    other->Execute("create table mine(id text)");
+    other->Execute("pragma journal_mode=delete");
+  }
+  for (const auto& arguments : {std::vector<std::string>{"run", "--db", "sqlite:" + path},
+                                std::vector<std::string>{"run", "--db", "sqlite:" + path, "--create"},
+                                std::vector<std::string>{"schema", "--db", "sqlite:" + path, "--apply"},
+                                std::vector<std::string>{"demo", "--db", "sqlite:" + path}}) {
+    expect_refused(arguments);
+  }
 }
 
 TEST(HostCommand, An_empty_file_gets_the_tables) {

@@ -131,12 +131,11 @@ TEST_F(SqliteDialects, Columns_have_the_names_of_the_statement) {
   run("insert into StockBill(Id) values('B1')");
   EXPECT_EQ(run("select Max(Id) as Id,max(ID),7,'x' from StockBill").names(),
             (std::vector<std::string>{"Id", "max(ID)", "7", "'x'"}));
-  EXPECT_EQ(run("select sum(PaidAmount), CloseAmount - 1,*,PaidAmount/2 as Half,max(convert(int,Type)) from StockBill")
+  EXPECT_EQ(run("select abs(PaidAmount), CloseAmount - 1,*,PaidAmount/2 as Half,convert(int,Type) from StockBill")
                 .names()
                 .front(),
-            "sum(PaidAmount)");
-  EXPECT_EQ(run("select CloseAmount - 1,*,max(convert(int,Type)) from StockBill").names().back(),
-            "max(convert(int,Type))");
+            "abs(PaidAmount)");
+  EXPECT_EQ(run("select CloseAmount - 1,*,convert(int,Type) from StockBill").names().back(), "convert(int,Type)");
   EXPECT_EQ(run("delete from StockBill").State(), 0);
   EXPECT_EQ(run("select * from StockBill").State(), 1);
 }

@@ -16,6 +16,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "brunvik/ado/connection.h"
 
@@ -37,6 +38,11 @@ struct Options {
 
   // How many shapes of statements are kept prepared; at least one is.
   std::size_t cached_statements = 512;
+
+  // Names of tables. Of these a database must have one, or be empty where it may be made; else it is that of another
+  // program, is refused with provider_failed, and stays as it is to the byte. Without names any database is taken, and
+  // put into write-ahead mode.
+  std::vector<std::string> known_tables{};
 };
 
 class Engine;
@@ -67,7 +73,8 @@ class Connection final : public ado::Connection {
 };
 
 // Opens the database at a path, or ":memory:" for one that lives as long as the connection. Throws a RuntimeError: of
-// provider_failed where there is no file or it is no database, of timed_out where another process holds it for itself.
+// provider_failed where there is no file, it is no database or that of another program, of timed_out where another
+// process holds it for itself.
 std::shared_ptr<Connection> open(const std::string& path, const Options& options = {});
 
 }  // namespace brunvik::sqlite

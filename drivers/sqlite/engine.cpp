@@ -7,6 +7,7 @@
 #include "drivers/sqlite/collation.h"
 #include "drivers/sqlite/failure.h"
 #include "drivers/sqlite/functions.h"
+#include "drivers/sqlite/known_tables.h"
 #include "drivers/sqlite/memory.h"
 
 namespace brunvik::sqlite {
@@ -58,9 +59,21 @@ Engine::Engine(const std::string& path, const Options& options)
   execute_as_it_stands("pragma cache_size=-16000");
   // Also the first look into the file, which finds out whether it is a database at all.
   schema_version({});
+  if (!options.known_tables.empty()) expect_known_tables(path, options);
   if (!is_in_memory(path) && sqlite3_db_readonly(database, "main") == 0) {
     execute_as_it_stands("pragma journal_mode=wal");
   }
+}
+
+void Engine::expect_known_tables(const std::string& path, const Options& options) {
+  const Contents contents = contents_of(database_.get(), options.known_tables);
+  if (contents.known || (contents.empty && (options.create || is_in_memory(path)))) return;
+  // The log that another program left beside its file is that program's to work off.
+  std::error_code ignored;
+  const bool has_log = std::filesystem::file_size(plain_path(path) + "-wal", ignored) > 0 && !ignored;
+  sqlite3_db_config(database_.get(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, has_log ? 1 : 0, nullptr);
+  throw ado::RuntimeError(ado::error::provider_failed,
+                          "There is none of the books' tables in '" + path + "', which stays as it is.");
 }
 
 ado::Recordset Engine::execute(std::string_view text) {

@@ -33,6 +33,9 @@ class Engine {
     void operator()(sqlite3* database) const noexcept { sqlite3_close_v2(database); }
   };
 
+  // Refuses the database of another program.
+  void expect_known_tables(const std::string& path, const Options& options);
+
   // A statement that doesn't work on rows goes to the engine as it stands.
   ado::Recordset execute_as_it_stands(std::string_view text);
 

@@ -9,6 +9,8 @@
 #include "drivers/sqlite/expression.h"
 #include "drivers/sqlite/failure.h"
 #include "drivers/sqlite/functions.h"
+#include "drivers/sqlite/grouping.h"
+#include "drivers/sqlite/own_words.h"
 #include "drivers/sqlite/pattern.h"
 #include "drivers/sqlite/scope.h"
 #include "drivers/sqlite/selection.h"
@@ -32,6 +34,9 @@ class Rewriter {
   }
 
   Rewritten run() {
+    refuse_own_words(tokens_, expressions_, scope_);
+    refuse_repeated_columns(tokens_, expressions_);
+    refuse_what_has_no_group(tokens_, expressions_, catalogue_);
     const std::size_t end = tokens_.size();
     const std::size_t verb = expressions_.find(0, end, verbs);
     range(0, verb);

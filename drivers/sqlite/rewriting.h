@@ -4,6 +4,7 @@
 // - What is assigned to a column is rounded as the column keeps it: a literal when it is bound, an expression by a
 //   function of the driver. Text keys lose their trailing blanks.
 // - Arithmetic and sums on money come out exact to four places, wherever they stand.
+// - What the engine would take and neither original database does is refused.
 // - Two minus signs are two minus signs (there are no comments): a negative value behind a minus takes nothing away.
 #pragma once
 

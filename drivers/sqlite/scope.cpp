@@ -57,4 +57,9 @@ ColumnType Scope::type_of(std::string_view table, std::string_view column) const
   return found;
 }
 
+bool Scope::has_column(std::string_view name) const {
+  return std::any_of(sources_.begin(), sources_.end(),
+                     [name](const Source& source) { return type_of_column(*source.columns, name).has_value(); });
+}
+
 }  // namespace brunvik::sqlite

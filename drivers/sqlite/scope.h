@@ -18,6 +18,9 @@ class Scope {
   // several tables have counts as money if it is money in one of them.
   ColumnType type_of(std::string_view table, std::string_view column) const;
 
+  // Whether one of the tables has a column of this name.
+  bool has_column(std::string_view name) const;
+
  private:
   struct Source {
     std::string_view name;

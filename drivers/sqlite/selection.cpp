@@ -10,13 +10,16 @@ namespace {
 
 bool is_star(std::span<const Token> item) { return !item.empty() && item.back().is_symbol("*"); }
 
-// Behind an item's expression, in front of the name that it is given.
+}  // namespace
+
 std::size_t end_of_expression(const Expressions& expressions, std::size_t first, std::size_t end) {
   static constexpr std::string_view as[] = {"as"};
   const std::size_t named = expressions.find(first, end, as);
   if (named < end) return named;
   return expressions.run_at(first, end).end == end - 1 ? end - 1 : end;
 }
+
+namespace {
 
 SelectedColumn described(std::span<const Token> tokens, const Expressions& expressions, std::size_t first,
                          std::size_t end) {

@@ -14,6 +14,9 @@ namespace brunvik::sqlite {
 void describe_selection(std::span<const Token> tokens, const Expressions& expressions, std::size_t first,
                         std::size_t end, Rewritten& rewritten);
 
+// Behind the expression of an item of a list, in front of the name that it is given.
+std::size_t end_of_expression(const Expressions& expressions, std::size_t first, std::size_t end);
+
 // Whether a * is among the items of a list.
 bool selects_all(std::span<const Token> tokens, const Expressions& expressions, std::size_t first, std::size_t end);
 
