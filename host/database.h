@@ -24,7 +24,7 @@ std::string address_of_file(const std::string& path);
 
 // Opens the database. `create` makes the file where there is none, and lays the tables in an empty database; the
 // memory is always new and gets them in any case. Throws an UnknownAddress, or a RuntimeError that says what is in the
-// way; a database that has none of the books' tables is refused, and stays as it is.
+// way; a database that has tables, and none of the books', is refused and stays as it is.
 ado::ConnectionReference open_database(const std::string& address, bool create);
 
 // Makes the file where there is none and lays the tables. Throws where anything stands in the database already.

@@ -39,8 +39,8 @@ struct Options {
   // How many shapes of statements are kept prepared; at least one is.
   std::size_t cached_statements = 512;
 
-  // Names of tables. Of these a database must have one, or be empty where it may be made; else it is that of another
-  // program, is refused with provider_failed, and stays as it is to the byte. Without names any database is taken, and
+  // Names of tables. Of these a database must have one, or be empty; else it is that of another program, is refused
+  // with provider_failed, and stays as it is to the byte. Without names any database is taken, and
   // put into write-ahead mode.
   std::vector<std::string> known_tables{};
 };

@@ -67,7 +67,7 @@ Engine::Engine(const std::string& path, const Options& options)
 
 void Engine::expect_known_tables(const std::string& path, const Options& options) {
   const Contents contents = contents_of(database_.get(), options.known_tables);
-  if (contents.known || (contents.empty && (options.create || is_in_memory(path)))) return;
+  if (contents.known || contents.empty) return;
   // The log that another program left beside its file is that program's to work off.
   std::error_code ignored;
   const bool has_log = std::filesystem::file_size(plain_path(path) + "-wal", ignored) > 0 && !ignored;
