@@ -2,13 +2,16 @@
 #include "brunvik/billframe/stock_row.h"
 #include "brunvik/warehouse/count_report.h"
 #include "brunvik/warehouse/other_stock_document.h"
+#include "brunvik/warehouse/state_conversion.h"
 #include "brunvik/warehouse/stock_adjustment.h"
+#include "brunvik/warehouse/transfer.h"
 
 namespace brunvik::automation {
 
 Family warehouse() {
   return {{document<clsOthersInBill>(), document<clsOthersOutBill>(), document<clsReportOfOverflowBill>(),
-           document<clsReportOfLossesBill>(), document<clsTZBill>()},
+           document<clsReportOfLossesBill>(), document<clsTZBill>(), document<clsDbBill>(),
+           document<clsGoodsConvertBill>()},
           {record<StockRow>("StockRow"), record<CountRow>("CountRow")}};
 }
 

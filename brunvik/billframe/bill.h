@@ -108,4 +108,11 @@ void for_each_row(RowCollection& rows, Action&& action) {
   for (std::size_t position = 1; position <= rows.Count(); ++position) action(rows.at(position));
 }
 
+// The same from the last row to the first.
+template <class Action>
+void for_each_row_backwards(RowCollection& rows, Action&& action) {
+  if (rows.Count() > 32'767) ado::raise(ado::error::overflow);
+  for (std::size_t position = rows.Count(); position >= 1; --position) action(rows.at(position));
+}
+
 }  // namespace brunvik

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "brunvik/foundation/error_trap.h"
+
 namespace brunvik {
 
 namespace {
@@ -18,6 +20,22 @@ constexpr DocumentStatements statements_of_issues{
     "stockbillitems.Supplier = Warehouse.id where stockbillitems.BillId={} order by stockbillitems.rownum",
     "delete from StockBillItems where BillId={}"};
 
+constexpr DocumentStatements statements_of_movements{
+    "select * from StockBill where Id={}", "delete from stockbill where Id={}",
+    "select * from StockBillItems where BillId={} order by rownum", "delete from StockBillItems where BillId={}"};
+
+const DocumentStatements& statements_of(WarehouseColumn warehouse) {
+  switch (warehouse) {
+    case WarehouseColumn::Receiver:
+      return statements_of_receipts;
+    case WarehouseColumn::Supplier:
+      return statements_of_issues;
+    case WarehouseColumn::both:
+      break;
+  }
+  return statements_of_movements;
+}
+
 }  // namespace
 
 DocumentForm StockDocument::stock_form(const Kind& kind, const Members& members, WarehouseColumn warehouse,
@@ -25,15 +43,26 @@ DocumentForm StockDocument::stock_form(const Kind& kind, const Members& members,
                                        const std::vector<ColumnSource>& row_sources) {
   Insert insert_stock_row(StockRow::table(), row_sources, insert_row);
   RowMembers read = members_read_back(insert_stock_row);
-  read.push_back(&StockRow::table().named("Wname"));
-  return {warehouse == WarehouseColumn::Receiver ? statements_of_receipts : statements_of_issues,
-          Insert(members, header_sources(kind), header_text(insert, kind.opening)),
+  if (warehouse != WarehouseColumn::both) read.push_back(&StockRow::table().named("Wname"));
+  return {statements_of(warehouse), Insert(members, header_sources(kind), header_text(insert, kind.opening)),
           Update(members, header_sources(kind), header_text(update, kind.opening)), std::move(insert_stock_row),
           std::move(read)};
 }
 
 void StockDocument::mark(Long status) {
   execute(sql("update stockbill set Status={},Auditor={},AuditTime={} where id={}", status, Auditor, Audittime, ID));
+}
+
+void StockDocument::mark_if_stored_otherwise(Long status) {
+  if (ID.empty()) throw Stop{result_without_id};
+  const auto stored = execute(sql("select * from StockBill where Id={}", ID));
+  const bool to_audit = status == status::audited;
+  if (stored.at_end() || (stored.value("Status").as_long() == status::audited) == to_audit) {
+    ID.clear();
+    return;
+  }
+  execute(
+      sql("update stockbill set Status = {},Auditor = {},AuditTime = {} where Id={}", status, Auditor, Audittime, ID));
 }
 
 }  // namespace brunvik

@@ -86,7 +86,9 @@ inline constexpr Long advance_received = 3;
 // Stock status of an Inventory row.
 namespace stock_status {
 inline constexpr Long sound = 0;
-}
+inline constexpr Long broken = 1;
+inline constexpr Long repaired = 2;
+}  // namespace stock_status
 
 }  // namespace Declare_EnumType
 

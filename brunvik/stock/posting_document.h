@@ -58,7 +58,6 @@ class PostingDocument : public StockDocument {
     for_each_row(rows(), [&](PublicObject& row) { action(static_cast<StockRow&>(row)); });
   }
 
- private:
   // Sets the row's cost and writes it to the row that is stored.
   void write_row_cost(StockRow& row, Money cost);
 };

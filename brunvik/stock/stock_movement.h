@@ -64,6 +64,7 @@ inline constexpr Operation<StockRow> StockOut{stored_stock_rows, issued};
 inline constexpr Operation<StockRow> Loss{stored_stock_rows, issued};
 inline constexpr Operation<StockRow> Overflow{stored_stock_rows, received};
 inline constexpr Operation<StockRow> SalesReturn{stored_stock_rows, received};
+inline constexpr Operation<StockRow> Transfer{stored_stock_rows, issued, received};
 }  // namespace operation
 
 }  // namespace brunvik

@@ -1,7 +1,6 @@
 #include "brunvik/warehouse/count_report.h"
 
 #include "brunvik/foundation/error_trap.h"
-#include "brunvik/foundation/sql_text.h"
 #include "brunvik/warehouse/warehouse_members.h"
 
 namespace brunvik {
@@ -43,15 +42,9 @@ const DocumentForm& clsReportOfLossesBill::form() const {
   return form;
 }
 
-void CountReport::change_status(bool audited) {
-  if (ID.empty()) throw Stop{result_without_id};
-  const auto stored = execute(sql("select * from StockBill where Id={}", ID));
-  if (stored.at_end() || (stored.value("Status").as_long() == status::audited) == audited) {
-    ID.clear();
-    return;
-  }
-  const Long to = audited ? status::audited : status::saved;
-  execute(sql("update stockbill set Status = {},Auditor = {},AuditTime = {} where Id={}", to, Auditor, Audittime, ID));
+void CountReport::change_status(Long to) {
+  mark_if_stored_otherwise(to);
+  if (ID.empty()) return;
   read_rows();
   cost_rows(cost_at_price);
   write_bill_cost(static_cast<Integer>(*kind().code));
@@ -59,7 +52,7 @@ void CountReport::change_status(bool audited) {
 
 Long CountReport::UpdateAudited() noexcept {
   return trap([&] {
-    change_status(true);
+    change_status(status::audited);
     if (ID.empty()) return;
     for_each_stock_row([&](const StockRow& row) { poster().Post(*stock_operation(), row); });
   });
@@ -67,7 +60,7 @@ Long CountReport::UpdateAudited() noexcept {
 
 Long CountReport::CancelAudited() noexcept {
   return trap([&] {
-    change_status(false);
+    change_status(status::saved);
     if (ID.empty()) return;
     undo_stock();
   });

@@ -36,7 +36,7 @@ class CountReport : public WarehouseDocument {
  private:
   // Moves the report that is stored to the other status and costs its rows. Empties ID where there is no such report,
   // and where it has that status already.
-  void change_status(bool audited);
+  void change_status(Long to);
 };
 
 class clsReportOfOverflowBill final : public CountReport {
