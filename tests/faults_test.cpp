@@ -167,7 +167,8 @@ TEST_F(FaultsOfAConnection, That_is_the_sessions_touch_no_verb_that_stays_on_the
       EXPECT_EQ(unset.statements, outcome(verb).statements);
     } else {
       const bool drops_rows_in_silence = verb.class_name == "clsReceiptBill" && verb.verb == "SaveAsDraft";
-      EXPECT_EQ(unset.notices.empty(), drops_rows_in_silence);
+      const bool posts_in_silence = verb.class_name == "clsGoodsConvertBill" && verb.verb != "GetNewId";
+      EXPECT_EQ(unset.notices.empty(), drops_rows_in_silence || posts_in_silence);
     }
   }
 }

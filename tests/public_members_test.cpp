@@ -184,8 +184,10 @@ TEST(PublicMembers, What_is_read_only_and_every_verb_refuse_a_put) {
 }
 
 TEST(PublicMembers, What_is_read_only_is_worked_out_from_what_was_put) {
-  for (const auto& [class_name, side] : std::vector<std::pair<const char*, Long>>{
-           {"clsPurchaseInBill", 1}, {"clsPurchaseInBjkcBill", 1}, {"clsReportOfLossesBill", 2}}) {
+  for (const auto& [class_name, side] : std::vector<std::pair<const char*, Long>>{{"clsPurchaseInBill", 1},
+                                                                                  {"clsPurchaseInBjkcBill", 1},
+                                                                                  {"clsReportOfLossesBill", 2},
+                                                                                  {"clsInitInBill", 1}}) {
     EXPECT_EQ(automation::get(*automation::create(class_name), "Inoutflag"), Value(side)) << class_name;
   }
   for (const char* class_name :

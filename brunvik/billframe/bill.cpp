@@ -86,15 +86,16 @@ Long Bill::load_neighbour_in_series(bool next, std::string_view series) noexcept
   });
 }
 
+std::string proposed_number(std::string_view table, std::string_view prefix) {
+  const Long number = Get_BillMaxId(table, "ID", sql(" where ID like '{raw}%' ", prefix), std::string_view());
+  std::array<char, 16> running{};
+  std::snprintf(running.data(), running.size(), "%05d", number);
+  return std::string(prefix) + ado::bill_day_text(ado::now()) + running.data();
+}
+
 Long Bill::propose_number(std::string& BID, std::string_view prefix) noexcept {
-  // A number that can't be worked out is shown by its own notice and proposed as 00000; the verb is done all the same.
-  trap([&] {
-    const Long number =
-        Get_BillMaxId(kind().header_table(), "ID", sql(" where ID like '{raw}%' ", prefix), std::string_view());
-    std::array<char, 16> running{};
-    std::snprintf(running.data(), running.size(), "%05d", number);
-    BID = std::string(prefix) + ado::bill_day_text(ado::now()) + running.data();
-  });
+  // Whatever comes of it, the verb is done.
+  trap([&] { BID = proposed_number(kind().header_table(), prefix); });
   return 0;
 }
 

@@ -101,6 +101,10 @@ class Bill : public PublicObject {
   void save(Saving saving);
 };
 
+// The next free number of today in a table, by its column ID: the prefix, the day, the running number. One that can't
+// be worked out shows its own notice and ends in 00000.
+std::string proposed_number(std::string_view table, std::string_view prefix);
+
 // Calls `action` with each row in its order. A bill holds 32,767 rows: more is error 6, and none is saved.
 template <class Action>
 void for_each_row(RowCollection& rows, Action&& action) {

@@ -152,6 +152,11 @@ Member Member::read_from(std::string_view column) && {
   return std::move(*this);
 }
 
+Member Member::not_read() && {
+  read_column_ = {};
+  return std::move(*this);
+}
+
 bool Member::is_kept_at(const PublicObject& object, const void* place) const {
   return place_ && place_(const_cast<PublicObject&>(object)) == place;
 }

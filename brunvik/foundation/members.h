@@ -86,6 +86,9 @@ class Member {
   // The property is filled from this column when a record is read, and no statement writes it.
   Member read_from(std::string_view column) &&;
 
+  // Statements write the property, and it stays as it is when a record is read.
+  Member not_read() &&;
+
   std::string_view name() const noexcept { return name_; }
   MemberKind kind() const noexcept { return kind_; }
   Type type() const noexcept { return type_; }

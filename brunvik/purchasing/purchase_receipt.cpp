@@ -1,12 +1,12 @@
 #include "brunvik/purchasing/purchase_receipt.h"
 
 #include "brunvik/foundation/ConnOPT_Function.h"
-#include "brunvik/foundation/SqlOPT_Function.h"
 #include "brunvik/foundation/error_trap.h"
 #include "brunvik/foundation/late_binding.h"
 #include "brunvik/foundation/sql_text.h"
 #include "brunvik/settlement/advance.h"
 #include "brunvik/settlement/pay_bill.h"
+#include "brunvik/stock/zero_cost_issues.h"
 
 namespace brunvik {
 
@@ -167,33 +167,14 @@ Long PurchaseReceipt::Audit(bool bJKC) noexcept {
   });
 }
 
-// Goods that were sold or returned before any cost was known get the average of now. The join goes by the goods id
-// alone: of goods with several models each costs the row in turn.
-void PurchaseReceipt::update_zero_cost_issues(const std::string& goods) {
-  if (goods.empty()) return;
-  auto set = execute(
-      sql("select StockBillItems.*,Goods.AverageCost from (StockBillItems left join Goods ON StockBillItems.GId = "
-          "Goods.ID) left JOIN StockBill ON StockBillItems.BillId = StockBill.Id where StockBill.Status=3 and "
-          "StockBillItems.cost=0  and stockBillItems.ActualQty<>0 and (StockBill.type=5 or StockBill.type=4) and "
-          "StockBillItems.Gid={}",
-          goods));
-  for (; !set.at_end(); set.MoveNext()) {
-    const std::string goods_id = set.value("GId").joined_text();
-    const Money factor = GoodsUnitConverter(goods_id, set.value("Unit").joined_text());
-    const Money quantity = Money::from_double(factor.to_double() * set.value("ActualQty").as_double());
-    const Value& average = set.value("AverageCost");
-    const Money cost = quantity * (average.is_null() ? Money() : average.as_money());
-    const Value& bill = set.value("BillId");
-    execute(sql("update StockBillItems set Cost={} where Gid={} and RowNum={} and BillId={}", cost, goods_id,
-                set.value("RowNum"), bill));
-    execute(sql("update StockBill set BillCost=BillCost+{} where id={}", cost, bill));
-  }
+void PurchaseReceipt::row_posted(const StockRow& row) {
+  update_zero_cost_issues(ADOConn, row.Gid, [&](const std::string& statement) { execute(statement); });
 }
 
 Long PurchaseReceipt::UndoAudit(bool bJKC) noexcept {
   return trap([&] {
     if (ID.empty()) return;
-    // On the session's road, in upper case, and the auditor is cleared: this document alone does so.
+    // On the session's road, in upper case, and the auditor is cleared where the other trade documents write it.
     std::string mark = sql("update stockbill set Status={},Auditor='',AuditTime='' where id={}", status::saved, ID);
     ExecuteNonQuerySql(mark);
     undo_voucher<clsPayBill>(Nowpaybillid);

@@ -46,11 +46,10 @@ class PurchaseReceipt : public TradeDocument {
 
   FinishRow finish_row() const override;
   const Operation<StockRow>* stock_operation() const override { return &operation::StockIn; }
-  void row_posted(const StockRow& row) override { update_zero_cost_issues(row.Gid); }
+  void row_posted(const StockRow& row) override;
 
  private:
   void read_rows_of(Long row_number, bool with_arrivals);
-  void update_zero_cost_issues(const std::string& goods);
 };
 
 class clsPurchaseInBill final : public PurchaseReceipt {

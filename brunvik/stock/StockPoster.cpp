@@ -2,9 +2,11 @@
 
 #include "brunvik/ado/errors.h"
 #include "brunvik/ado/numbers.h"
+#include "brunvik/foundation/Brunvik_Variable.h"
 #include "brunvik/foundation/FenwerkOPT_Function.h"
 #include "brunvik/foundation/SqlOPT_Function.h"
 #include "brunvik/foundation/error_trap.h"
+#include "brunvik/stock/stock_balance.h"
 
 namespace brunvik {
 
@@ -37,11 +39,8 @@ void StockPoster::post(const MovedGoods& goods) const {
       ADOConn, sql("select * from Inventory where WID={} and GId={} and Model1={} and Model2={} and Status={}",
                    warehouse, id, model1, model2, state));
   if (set.at_end()) {
-    ado::execute(ADOConn,
-                 sql("insert into Inventory(WID,GId,Model1,Model2,Status,Class,Unit,InQty,OutQty,CurrentQty,Remarks) "
-                     "values({},{},{},{},{},{},{},{},{},{},{})",
-                     warehouse, id, model1, model2, state, goods_class, unit, in ? quantity : 0.0F,
-                     in ? 0.0F : quantity, in ? quantity : -quantity, ""));
+    ado::execute(ADOConn, insert_balance({warehouse, id, model1, model2, state, goods_class, unit, in ? quantity : 0.0F,
+                                          in ? 0.0F : quantity}));
   } else if (in) {
     ado::execute(ADOConn, sql("update Inventory set InQty = InQty + {},CurrentQty = CurrentQty+{} where WID={} and "
                               "GId={} and Model1={} and Model2={} and Status={}",
@@ -65,6 +64,11 @@ void StockPoster::undo(const MovedGoods& goods) const {
                               "GId={} and Model1={} and Model2={} and Status={}",
                               quantity, quantity, warehouse, id, model1, model2, state));
   }
+}
+
+const StockPoster& session_poster() {
+  if (!session().StockPoster) ado::raise(ado::error::object_not_set);
+  return *session().StockPoster;
 }
 
 }  // namespace brunvik

@@ -104,4 +104,7 @@ class StockPoster {
   void undo(const MovedGoods& goods) const;
 };
 
+// The poster of the session; error 91 without a session.
+const StockPoster& session_poster();
+
 }  // namespace brunvik

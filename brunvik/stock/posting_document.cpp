@@ -1,7 +1,5 @@
 #include "brunvik/stock/posting_document.h"
 
-#include "brunvik/ado/errors.h"
-#include "brunvik/foundation/Brunvik_Variable.h"
 #include "brunvik/foundation/SqlOPT_Function.h"
 
 namespace brunvik {
@@ -27,11 +25,6 @@ Money PostingDocument::write_bill_cost(Integer rows_of) {
   const Money cost = CalcBillCost(rows(), rows_of);
   UpdateBillCost(ID, *kind().code, cost);
   return cost;
-}
-
-const StockPoster& PostingDocument::poster() {
-  if (!session().StockPoster) ado::raise(ado::error::object_not_set);
-  return *session().StockPoster;
 }
 
 }  // namespace brunvik

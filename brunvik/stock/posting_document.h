@@ -50,8 +50,7 @@ class PostingDocument : public StockDocument {
   // Sums the rows' costs and writes the sum to the bill; the sum. `rows_of` tells CalcBillCost the row class.
   Money write_bill_cost(Integer rows_of = any_stock_document);
 
-  // The session's poster; error 91 without a session.
-  static const StockPoster& poster();
+  static const StockPoster& poster() { return session_poster(); }
 
   template <class Action>
   void for_each_stock_row(Action&& action) {

@@ -45,7 +45,9 @@ std::vector<std::string> stock_bills(const RehearsedDocument& document, const St
 
 Frame frame_over(const std::string& header, const std::string& rows) {
   const Step row_added = ends("bill|insert into " + rows + "(");
-  return {.header_read = ends("bill|select * from " + header + " where Id="),
+  const Step header_read = ends("bill|select * from " + header + " where Id=");
+  return {.header_sought = header_read,
+          .header_read = header_read,
           .header_added = ends("bill|insert into " + header + "("),
           .header_updated = ends("bill|update " + header + " set "),
           .header_removed = ends("bill|delete from " + header + " where Id="),
@@ -67,8 +69,9 @@ Frame stock_frame() {
 Verbs with_frame(const std::string& class_name, const std::string& prefix, const Frame& frame, Verbs own) {
   const RehearsedDocument document{.class_name = class_name, .prefix = prefix};
   const Steps read = Steps{frame.header_read} + frame.rows_read;
-  const Steps added = Steps{frame.header_read, frame.header_added} + frame.rows_added;
-  const Steps updated = Steps{frame.header_read} + frame.rows_removed + Steps{frame.header_updated} + frame.rows_added;
+  const Steps added = Steps{frame.header_sought, frame.header_added} + frame.rows_added;
+  const Steps updated =
+      Steps{frame.header_sought} + frame.rows_removed + Steps{frame.header_updated} + frame.rows_added;
   const std::string unknown = document.number(9);
   const Verbs shared{
       {.verb = "Save", .steps = added, .remark = "for_the_first_time", .number = unknown},

@@ -11,7 +11,9 @@ namespace brunvik::test {
 
 // The statements that the frame's verbs are made of.
 struct Frame {
-  Step header_read, header_added, header_updated, header_removed;
+  // What a save asks for, and what is read.
+  Step header_sought, header_read;
+  Step header_added, header_updated, header_removed;
   // Where a document reads several row sets, a step for each.
   Steps rows_read;
   Steps rows_removed;

@@ -1,4 +1,5 @@
-// Other receipts and issues, the two count reports, stock adjustment; the rows of all that stands in StockBill.
+// Other receipts and issues, the two count reports, stock adjustment, transfer and conversion, assembly and
+// dismantling, opening stock; the rows of all that stands in StockBill, and those of an assembly.
 #include "tests/support/public_members/expected.h"
 
 namespace brunvik::test {
@@ -58,6 +59,67 @@ const ExpectedClass loss_report("clsReportOfLossesBill", warehouse({.person = "M
 const ExpectedClass adjustment(
     "clsTZBill", warehouse({.person = "RManager", .side = "", .money = "Paidamount BillCost", .near = ""}));
 
+// The documents that move goods inside the company: their two ends, and the verbs in front of the walk.
+std::string internal_movement(const std::string& ends, const std::string& verbs) {
+  return R"(
+property Connection: ADOConn
+collection Collection: colBillItems
+property String: ID Manualid )" +
+         ends + R"( Creator Createtime Auditor Audittime
+property Long: Status
+property Money: Paidamount
+property Long: Referflag
+property String: Summary Remarks
+)" + verbs +
+         R"(
+verb Long: LoadLast() LoadNext() LoadPreviou() GetLastId(&LastId:String)
+)" + near_verb();
+}
+
+const ExpectedClass transfer(
+    "clsDbBill", internal_movement("Supplier Receiver SManager RManager",
+                                   "verb Long: Save() SaveAsDraft() GetNewId(&BID:String) LoadById(&BID:String) "
+                                   "Delete() UpdateAudited() CancelAudited() GetDbBillItems()"));
+const ExpectedClass conversion(
+    "clsGoodsConvertBill", internal_movement("OldWareHouse NewWareHouse OldStatus NewStatus",
+                                             "verb Long: Save() Delete() GetNewId(&BID:String) LoadById(&BID:String)"));
+
+const std::string assembly = R"(
+property Connection: ADOConn
+collection Collection: colBillItems
+property String: ID Manualid Manager Salesman Creator Createtime Auditor Audittime
+property Long: Status Referflag
+property String: Referbillid Summary Remarks
+property Integer: Inoutflag
+property String: Gid Gbarcode Gname Class Model1 Model2 Unit
+property Single: Actualqty
+property Money: price Amount
+property String: WareHouseID WareHouseName
+property Long: GoodStatus
+verb Long: LoadLast() Save() SaveAsDraft() GetBill() Delete() GetLastId(&LastId:String) LoadById(&BID:String)
+verb Long: LoadNext() LoadPreviou() GetNewId(&BID:String)
+)" + near_verb() + R"(
+verb Long: Audit() UndoAudit()
+)";
+const ExpectedClass assembled("clsGoodsAssembled", assembly);
+const ExpectedClass dismantled("clsGoodsDismantled", assembly);
+
+const ExpectedClass opening_stock("clsInitInBill", R"(
+property Connection: ADOConn
+property Boolean: CreateFlag
+property String: Receiver Nowpaybillid
+collection Collection: colBillItems
+property String: ID Manualid Vendor RkrId Salesman Creator Createtime
+read-only Long: Inoutflag
+property String: Auditor Audittime
+property Long: Status
+property Money: Paidamount Closeamount Amount BillCost
+property Integer: Referflag
+property String: Referbillid Summary Remarks
+verb Long: Save(&sZLID:String,&iZYCP:Integer,&iCPZT:Integer) RGSave(&sZLID:String,&iZYCP:Integer,&iCPZT:Integer)
+verb Long: GetNewId(&BID:String) GetRGNewId(&BID:String) LoadById(&BID:String) LoadRGById(&BID:String)
+)");
+
 const std::string stock_row = R"(
 property String: BillId
 property Integer: Rownum
@@ -73,6 +135,16 @@ property Long: MeansOfPayment
 
 const ExpectedRecord row("StockRow", stock_row);
 const ExpectedRecord count_row("CountRow", stock_row);
+const ExpectedRecord assembly_row("AssemblyRow", R"(
+property String: BillId
+property Integer: RowNum
+property String: GId GBarcode GName Class Model1 Model2 unit
+property Single: ActualQty
+property Money: price Amount
+property String: WareHouseId EquipCode
+property Long: GoodStutas
+property String: remarks WName
+)");
 
 }  // namespace
 
