@@ -23,6 +23,7 @@ TEST(SchemaPlans, No_statement_of_the_documents_reads_a_table_from_end_to_end) {
       {"select max(BillId)  from AfterServiceBill  where BillId like 'SFD240305%' ",
        {"AfterServiceBill", "(BillId>? AND BillId<?)"}},
       {"select * from StockBill where Id='QTR24030500001'", {"StockBill", "(Id=?)"}},
+      {"select count(ID) as BillCount from StockBill where Id='a'", {"StockBill", "(Id=?)"}},
       {"select Max(Id) as Id from StockBill where type=6", {"COVERING INDEX", "(Type=?)"}},
       {"select Min(Id) as Id from StockBill where id > 'QTR1' and type=6", {"COVERING INDEX", "(Type=? AND Id>?)"}},
       {"select Max(Id) as Id from StockBill where Id < 'QTR1' and type=6", {"COVERING INDEX", "(Type=? AND Id<?)"}},
@@ -63,6 +64,7 @@ TEST(SchemaPlans, No_statement_of_the_documents_reads_a_table_from_end_to_end) {
       {"update Inventory set InQty = InQty + 1,CurrentQty = CurrentQty+1 where WID='W1' and GId='G1' and Model1=''"
        " and Model2='' and Status=0",
        {"Inventory", "(WID=? AND GId=? AND Model1=? AND Model2=? AND Status=?)"}},
+      {"delete from Inventory where Status=0 and WID='W1'", {"Inventory", "(WID=?)"}},
       {"select * from BasicConfig where keyname='启用帐款审核'", {"BasicConfig", "(keyname=?)"}},
       {"Select stockbill.amount as billamount,(select sum(RPBRPItems.Amount) from RPVouchers left join RPBRPItems on"
        " RPVouchers.id=RPBRPItems.BID where (RPVouchers.status<>1 or RPVouchers.status is null) and"
@@ -88,6 +90,7 @@ TEST(SchemaPlans, No_statement_of_the_documents_reads_a_table_from_end_to_end) {
       {"update ZHXX set YE=YE + 1 where ID='1'", {"ZHXX", "(ID=?)"}},
       {"delete from ZHXX where ZH='1'", {"ZHXX", "(ZH=?)"}},
       {"select Max(Id) as Id from GoodsBill where type=42", {"GoodsBill", "(Type=?)"}},
+      {"select * from GoodsBillItems where BillId='a'", {"GoodsBillItems", "(BillId=?)"}},
       {"select * from PurchaseOrder where id like 'CDD%' order by Id desc", {"PurchaseOrder", "(Id>? AND Id<?)"}},
       {"select * from PurchaseOrderList where PurOrderId='a' and PurInId='b' order by PurRowNum",
        {"PurchaseOrderList", "(PurOrderId=? AND PurInId=?)"}},
