@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string_view>
+#include <utility>
 
 #include "brunvik/foundation/late_binding.h"
 #include "brunvik/stock/posting_document.h"
