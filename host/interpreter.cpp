@@ -23,17 +23,22 @@ Json error_json(Long number, std::string_view description) {
 Value Interpreter::Way::reference() const { return set ? Value(ado::ObjectReference(connection)) : Value(ado::Null()); }
 
 Interpreter::Interpreter(ado::ConnectionReference database, const Settings& settings)
-    : database_(std::move(database)), tracing_(settings.trace), trace_(std::make_shared<Trace>(settings.trace)) {
-  bills_.connection = std::make_shared<TracedConnection>(database_, Road::bill, trace_);
-  sessions_.connection = std::make_shared<TracedConnection>(database_, Road::session, trace_);
+    : database_(std::move(database)), tracing_(settings.trace), trace_(std::make_shared<Trace>()) {
+  bills_.connection = std::make_shared<TracedConnection>(database_, ado::Road::bill, trace_);
+  sessions_.connection = std::make_shared<TracedConnection>(database_, ado::Road::session, trace_);
   ado::set_notice([this](const ado::Notice& notice) { notices_.push_back(notice); });
+  ado::set_statement_hook({});
+  if (tracing_) ado::set_statement_hook([this](const ado::SentStatement& sent) { trace_->record(sent); });
   auto session = automation::create(session_class);
   automation::put(*session, "DATAType", settings.dialect);
   automation::put(*session, "OperatorId", settings.operator_id);
   start(std::move(session));
 }
 
-Interpreter::~Interpreter() { ado::set_notice({}); }
+Interpreter::~Interpreter() {
+  ado::set_notice({});
+  ado::set_statement_hook({});
+}
 
 std::string Interpreter::answer(std::string_view text) {
   ++lines_;
@@ -77,6 +82,7 @@ Interpreter::Command Interpreter::command_named(std::string_view name) {
       Entry{"get", &Interpreter::get},
       Entry{"add", &Interpreter::add},
       Entry{"edit", &Interpreter::edit},
+      Entry{"remove", &Interpreter::remove},
       Entry{"clear", &Interpreter::clear},
       Entry{"rows", &Interpreter::show_rows},
       Entry{"call", &Interpreter::call},
@@ -85,6 +91,7 @@ Interpreter::Command Interpreter::command_named(std::string_view name) {
       Entry{"session", &Interpreter::start_session},
       Entry{"connection", &Interpreter::set_connection},
       Entry{"fail", &Interpreter::rehearse_failure},
+      Entry{"transaction", &Interpreter::run_transaction},
   };
   for (const Entry& entry : commands) {
     if (entry.name == name) return entry.command;

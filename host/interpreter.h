@@ -62,6 +62,7 @@ class Interpreter {
   void get(const Json& line, Json& answer);
   void add(const Json& line, Json& answer);
   void edit(const Json& line, Json& answer);
+  void remove(const Json& line, Json& answer);
   void clear(const Json& line, Json& answer);
   void show_rows(const Json& line, Json& answer);
   void call(const Json& line, Json& answer);
@@ -70,6 +71,7 @@ class Interpreter {
   void start_session(const Json& line, Json& answer);
   void set_connection(const Json& line, Json& answer);
   void rehearse_failure(const Json& line, Json& answer);
+  void run_transaction(const Json& line, Json& answer);
 
   static constexpr std::string_view session_class = "InitBrunvikVariable";
 

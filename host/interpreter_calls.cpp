@@ -3,6 +3,7 @@
 
 #include "brunvik/ado/errors.h"
 #include "brunvik/automation/automation.h"
+#include "brunvik/foundation/last_failure.h"
 #include "host/interpreter.h"
 #include "host/values.h"
 
@@ -52,6 +53,9 @@ void Interpreter::add_what_happened(Json& answer) {
     Json notices = Json::array();
     for (const ado::Notice& notice : notices_) notices.push_back({{"title", notice.title}, {"text", notice.text}});
     answer["notices"] = std::move(notices);
+  }
+  if (const Failure& failure = last_failure(); failure.number != 0) {
+    answer["failure"] = {{"number", failure.number}, {"text", failure.text}, {"statement", failure.statement}};
   }
   if (!tracing_) return;
   Json statements = Json::array();

@@ -17,6 +17,13 @@ const Json& row_in(const Json& line) {
   return member_or(line, "row", no_values);
 }
 
+// Where a line is about, from 1 to a last place; error 9 for any other.
+std::size_t place_in(const Json& line, std::size_t last) {
+  const Long place = long_member(line, "at");
+  if (place < 1 || static_cast<std::size_t>(place) > last) refuse(error::subscript, std::to_string(place));
+  return static_cast<std::size_t>(place);
+}
+
 }  // namespace
 
 PublicObject& Interpreter::object_of(const Json& line) {
@@ -68,15 +75,19 @@ void Interpreter::get(const Json& line, Json& answer) {
 
 void Interpreter::add(const Json& line, Json& answer) {
   RowCollection& rows = rows_of(line);
-  add_row(rows, row_in(line));
+  add_row(rows, find(line, "at") ? place_in(line, rows.Count() + 1) : rows.Count() + 1, row_in(line));
   answer["count"] = rows.Count();
 }
 
 void Interpreter::edit(const Json& line, Json& answer) {
   RowCollection& rows = rows_of(line);
-  const Long place = long_member(line, "at");
-  if (place < 1) refuse(error::subscript, std::to_string(place));
-  put_properties(rows.at(static_cast<std::size_t>(place)), row_in(line));
+  put_properties(rows.at(place_in(line, rows.Count())), row_in(line));
+  answer["count"] = rows.Count();
+}
+
+void Interpreter::remove(const Json& line, Json& answer) {
+  RowCollection& rows = rows_of(line);
+  rows.remove(place_in(line, rows.Count()));
   answer["count"] = rows.Count();
 }
 

@@ -39,9 +39,9 @@ void Interpreter::start_session(const Json& line, Json& answer) {
 void Interpreter::set_connection(const Json& line, Json& answer) {
   const std::string& of = text_member(line, "of");
   const std::string& is = text_member(line, "is");
-  if (of != name_of(Road::bill) && of != name_of(Road::session)) refuse(error::type_mismatch, of);
+  if (of != name_of(ado::Road::bill) && of != name_of(ado::Road::session)) refuse(error::type_mismatch, of);
   if (is != "open" && is != "closed" && is != "unset") refuse(error::type_mismatch, is);
-  Way& way = of == name_of(Road::session) ? sessions_ : bills_;
+  Way& way = of == name_of(ado::Road::session) ? sessions_ : bills_;
   way.connection->set_closed(is == "closed");
   way.set = is != "unset";
   for (const auto& [name, object] : objects_) {
@@ -51,15 +51,24 @@ void Interpreter::set_connection(const Json& line, Json& answer) {
   answer["ok"] = true;
 }
 
+// The host's own statements: the library begins and ends no transaction. The lock of the writer is taken at once, since
+// a verb that has read before another program writes could not write any more.
+void Interpreter::run_transaction(const Json& line, Json& answer) {
+  const std::string& is = text_member(line, "is");
+  if (is != "begin" && is != "commit" && is != "rollback") refuse(error::type_mismatch, is);
+  database_->Execute(is == "begin" ? "begin immediate" : is);
+  answer["ok"] = true;
+}
+
 void Interpreter::rehearse_failure(const Json& line, Json& answer) {
   Rehearsal rehearsal;
   if (find(line, "at")) rehearsal.at = long_member(line, "at");
   if (rehearsal.at < 1) refuse(error::type_mismatch, "at");
   const std::string of = text_member(line, "of", "any");
-  if (of == name_of(Road::bill)) {
-    rehearsal.of = Road::bill;
-  } else if (of == name_of(Road::session)) {
-    rehearsal.of = Road::session;
+  if (of == name_of(ado::Road::bill)) {
+    rehearsal.of = ado::Road::bill;
+  } else if (of == name_of(ado::Road::session)) {
+    rehearsal.of = ado::Road::session;
   } else if (of != "any") {
     refuse(error::type_mismatch, of);
   }

@@ -7,10 +7,8 @@
 
 namespace brunvik::host {
 
-std::string_view name_of(Road road) noexcept { return road == Road::bill ? "bill" : "session"; }
-
-void Trace::hand_over(Road road, std::string_view statement) {
-  if (recording_) statements_.push_back({road, std::string(statement), {}});
+void Trace::hand_over(ado::Road road, std::string_view statement) {
+  rehearsed_.reset();
   std::optional<Rehearsal> due;
   std::erase_if(rehearsals_, [&](Rehearsal& rehearsal) {
     if (rehearsal.of && *rehearsal.of != road) return false;
@@ -19,11 +17,15 @@ void Trace::hand_over(Road road, std::string_view statement) {
     return true;
   });
   if (!due) return;
-  if (recording_) statements_.back().failure = due->number;
+  rehearsed_ = due->number;
   throw ado::RuntimeError(due->number, due->text, std::string(statement));
 }
 
-TracedConnection::TracedConnection(ado::ConnectionReference driver, Road road, std::shared_ptr<Trace> trace)
+void Trace::record(const ado::SentStatement& sent) {
+  statements_.push_back({sent.road, std::string(sent.text), rehearsed_});
+}
+
+TracedConnection::TracedConnection(ado::ConnectionReference driver, ado::Road road, std::shared_ptr<Trace> trace)
     : driver_(std::move(driver)), road_(road), trace_(std::move(trace)) {}
 
 ado::Recordset TracedConnection::Execute(std::string_view CommandText) {

@@ -9,15 +9,12 @@
 #include <vector>
 
 #include "brunvik/ado/connection.h"
+#include "brunvik/ado/wire.h"
 
 namespace brunvik::host {
 
-enum class Road { bill, session };
-
-std::string_view name_of(Road road) noexcept;
-
 struct TracedStatement {
-  Road road;
+  ado::Road road;
   // Exactly as it was handed to the connection.
   std::string text;
   // The number of a rehearsed failure.
@@ -28,33 +25,35 @@ struct TracedStatement {
 struct Rehearsal {
   Long at = 1;
   // Only statements of this road count; of either where it is left out.
-  std::optional<Road> of;
+  std::optional<ado::Road> of;
   Long number = 0;
   std::string text;
 };
 
 class Trace {
  public:
-  explicit Trace(bool recording) : recording_(recording) {}
-
   void rehearse(Rehearsal rehearsal) { rehearsals_.push_back(std::move(rehearsal)); }
 
   // A statement is handed over. Throws the rehearsed failure where one is due.
-  void hand_over(Road road, std::string_view statement);
+  void hand_over(ado::Road road, std::string_view statement);
+
+  // A statement is over, as the hook of the wire tells it.
+  void record(const ado::SentStatement& sent);
 
   // What was recorded since it was taken last.
   std::vector<TracedStatement> take() { return std::exchange(statements_, {}); }
 
  private:
-  bool recording_;
   std::vector<TracedStatement> statements_;
   std::vector<Rehearsal> rehearsals_;
+  // The number of the statement at work, where it fails on purpose.
+  std::optional<Long> rehearsed_;
 };
 
 // A connection of the driver as one road sees it.
 class TracedConnection final : public ado::Connection {
  public:
-  TracedConnection(ado::ConnectionReference driver, Road road, std::shared_ptr<Trace> trace);
+  TracedConnection(ado::ConnectionReference driver, ado::Road road, std::shared_ptr<Trace> trace);
 
   ado::Recordset Execute(std::string_view CommandText) override;
   Long State() const noexcept override { return closed_ ? 0 : driver_->State(); }
@@ -63,7 +62,7 @@ class TracedConnection final : public ado::Connection {
 
  private:
   ado::ConnectionReference driver_;
-  Road road_;
+  ado::Road road_;
   std::shared_ptr<Trace> trace_;
   bool closed_ = false;
 };

@@ -193,15 +193,12 @@ void put_properties(PublicObject& object, const Json& values) {
   }
 }
 
-void add_row(RowCollection& rows, const Json& values) {
-  PublicObject& row = rows.add();
+void add_row(RowCollection& rows, std::size_t position, const Json& values) {
+  PublicObject& row = rows.insert(position);
   try {
     put_properties(row, values);
   } catch (const ado::RuntimeError&) {
-    // A collection can lose its last row only together with all others.
-    const Json all = object_json(ado::ObjectReference(ado::ObjectReference(), &rows)).at("rows");
-    rows.clear();
-    for (std::size_t place = 0; place + 1 < all.size(); ++place) put_properties(rows.add(), all[place]);
+    rows.remove(position);
     throw;
   }
 }

@@ -1,6 +1,7 @@
 // Values of the library as JSON, and JSON as values of the library.
 #pragma once
 
+#include <cstddef>
 #include <span>
 #include <vector>
 
@@ -23,8 +24,8 @@ Json properties_of(const PublicObject& object);
 // Puts each member of a JSON object to the property of that name; all of them, or none where one is refused.
 void put_properties(PublicObject& object, const Json& values);
 
-// A new row at the end of a collection with these properties; none where one is refused.
-void add_row(RowCollection& rows, const Json& values);
+// A new row of a collection that gets this position, with these properties; none where one is refused.
+void add_row(RowCollection& rows, std::size_t position, const Json& values);
 
 // The arguments of a call in their order, records made as the class that the parameter takes.
 std::vector<Value> to_arguments(const Json& given, const std::vector<Parameter>& parameters);

@@ -46,9 +46,19 @@ TEST(Notice, Has_the_usual_title_unless_it_is_given_one) {
   EXPECT_EQ(host.notices, (std::vector<std::string>{"提示信息|Save(): 溢出", "错误信息|GetKeyValue():类型不匹配"}));
 }
 
-TEST(Notice, Is_dropped_without_a_host_that_listens) {
+TEST(Notice, Goes_to_standard_error_without_a_host_that_listens) {
   set_notice({});
-  show_notice("nobody hears this");
+  testing::internal::CaptureStderr();
+  show_notice("Save(): 溢出");
+  show_notice("错误信息", "GetKeyValue():类型不匹配");
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "提示信息: Save(): 溢出\n错误信息: GetKeyValue():类型不匹配\n");
+}
+
+TEST(Notice, That_a_host_takes_does_not_go_to_standard_error) {
+  test::NoticeRecorder host;
+  testing::internal::CaptureStderr();
+  show_notice("Save(): 溢出");
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
 TEST(Notice, Whose_handler_fails_does_not_stop_the_work_behind_it) {
@@ -61,7 +71,9 @@ TEST(Notice, Whose_handler_fails_does_not_stop_the_work_behind_it) {
 
 TEST(Notice, Belongs_to_the_thread_that_set_its_handler) {
   test::NoticeRecorder host;
+  testing::internal::CaptureStderr();
   std::thread([] { show_notice("elsewhere"); }).join();
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "提示信息: elsewhere\n");
   EXPECT_TRUE(host.notices.empty());
 }
 

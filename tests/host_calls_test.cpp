@@ -75,14 +75,46 @@ TEST_F(HostCalls, A_notice_that_was_shown_is_in_the_answer_and_gone_from_the_nex
   said(R"({"do":"connection","of":"session","is":"closed"})");
   EXPECT_EQ(said(R"({"do":"proc","name":"GetKeyValue","args":["启用帐款审核"]})"),
             R"({"result":"","args":["启用帐款审核"],"notices":[{"title":"错误信息",)"
-            R"("text":"GetKeyValue():对象关闭时，不允许操作。"}]})");
-  EXPECT_FALSE(answer(R"({"do":"proc","name":"EscapeLike","args":["a"]})").contains("notices"));
+            R"("text":"GetKeyValue():对象关闭时，不允许操作。"}],"failure":{"number":3704,)"
+            R"("text":"对象关闭时，不允许操作。",)"
+            R"("statement":"select * from BasicConfig where keyname='启用帐款审核'"}})");
+  EXPECT_EQ(said(R"({"do":"proc","name":"EscapeLike","args":["a"]})"), R"({"result":"a","args":["a"]})");
 }
 
 TEST_F(HostCalls, The_result_of_a_verb_is_the_number_of_the_error_that_stopped_it) {
   said(R"({"do":"put","on":"b","values":{"ID":"QTR24030500001"}})");
   said(R"({"do":"sql","text":"drop table StockBill"})");
-  EXPECT_EQ(said(R"({"do":"call","on":"b","verb":"Save"})"), R"({"result":-2147217865,"args":[]})");
+  EXPECT_EQ(answer(R"({"do":"call","on":"b","verb":"Save"})").at("result"), -2147217865);
+}
+
+TEST_F(HostCalls, A_failure_is_told_beside_the_result_with_its_statement) {
+  said(R"({"do":"put","on":"b","values":{"ID":"Q"}})");
+  said(R"({"do":"sql","text":"drop table StockBill"})");
+  EXPECT_EQ(said(R"({"do":"call","on":"b","verb":"Save"})"),
+            R"({"result":-2147217865,"args":[],"failure":{"number":-2147217865,"text":"no such table: StockBill",)"
+            R"("statement":"select * from StockBill where Id='Q'"}})");
+  EXPECT_EQ(said(R"({"do":"proc","name":"IsConnected"})"), R"({"result":true,"args":[]})");
+}
+
+TEST_F(HostCalls, A_failure_is_told_between_the_notices_and_the_trace_also_where_the_verb_goes_on) {
+  said(R"({"do":"sql","text":"drop table StockBill"})");
+  const std::string answered = said(R"({"do":"call","on":"b","verb":"GetNewId","args":[""]})");
+  EXPECT_EQ(answered, R"({"result":0,"args":["QTR24030500000"],)"
+                      R"("notices":[{"title":"提示信息","text":"Get_BillMaxId():no such table: StockBill"}],)"
+                      R"("failure":{"number":-2147217865,"text":"no such table: StockBill",)"
+                      R"("statement":"select max(ID)  from StockBill where ID like 'QTR240305%' "}})");
+}
+
+TEST_F(HostCalls, A_verb_that_ends_with_a_result_of_its_own_has_no_failure) {
+  EXPECT_EQ(said(R"({"do":"call","on":"b","verb":"Save"})"), R"({"result":-1,"args":[]})");
+}
+
+TEST_F(HostCalls, A_failure_is_not_told_again_by_the_next_call_nor_by_a_start_of_the_session) {
+  said(R"({"do":"new","as":"s","class":"InitBrunvikVariable"})");
+  said(R"({"do":"connection","of":"bill","is":"closed"})");
+  said(R"({"do":"put","on":"b","values":{"ID":"Q"}})");
+  EXPECT_TRUE(answer(R"({"do":"call","on":"b","verb":"Save"})").contains("failure"));
+  EXPECT_FALSE(answer(R"({"do":"call","on":"s","verb":"InitClase_PublicVariable"})").contains("failure"));
 }
 
 TEST_F(HostCalls, Without_tracing_no_statement_is_shown) {

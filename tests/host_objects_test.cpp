@@ -88,6 +88,60 @@ TEST_F(HostObjects, Rows_are_added_edited_shown_and_cleared) {
   EXPECT_EQ(said(R"({"do":"rows","on":"v","rows":"colRPBItems"})"), R"({"rows":[]})");
 }
 
+class HostRows : public HostTest {
+ protected:
+  HostRows() {
+    said(R"({"do":"new","as":"v","class":"clsPayBill"})");
+    for (const char* amount : {"1", "2", "3"}) add(std::string(R"("row":{"Amount":)") + amount + "}");
+  }
+
+  std::string add(const std::string& what) {
+    return said(R"({"do":"add","on":"v","rows":"colRPBItems",)" + what + "}");
+  }
+  std::string remove(const std::string& at) {
+    return said(R"({"do":"remove","on":"v","rows":"colRPBItems","at":)" + at + "}");
+  }
+
+  std::string amounts() {
+    std::string all;
+    const Json answered = answer(R"({"do":"rows","on":"v","rows":"colRPBItems"})");
+    for (const Json& row : answered.at("rows")) {
+      all += row.at("Amount").get<std::string>() + " ";
+    }
+    return all;
+  }
+};
+
+TEST_F(HostRows, Any_of_them_can_be_removed) {
+  EXPECT_EQ(remove("2"), R"({"count":2})");
+  EXPECT_EQ(amounts(), "1 3 ");
+  EXPECT_EQ(remove("2"), R"({"count":1})");
+  EXPECT_EQ(remove("1"), R"({"count":0})");
+}
+
+TEST_F(HostRows, One_can_be_added_in_front_of_another_or_at_the_end) {
+  EXPECT_EQ(add(R"("at":2,"row":{"Amount":"1.5"})"), R"({"count":4})");
+  EXPECT_EQ(add(R"("at":5,"row":{"Amount":"4"})"), R"({"count":5})");
+  EXPECT_EQ(add(R"("at":1)"), R"({"count":6})");
+  EXPECT_EQ(amounts(), "0 1 1.5 2 3 4 ");
+}
+
+TEST_F(HostRows, Stay_as_they_are_for_a_position_outside_of_them) {
+  EXPECT_EQ(remove("4"), R"({"error":{"number":9,"description":"下标越界: 4"}})");
+  EXPECT_EQ(remove("0"), R"({"error":{"number":9,"description":"下标越界: 0"}})");
+  EXPECT_EQ(remove("-1"), R"({"error":{"number":9,"description":"下标越界: -1"}})");
+  EXPECT_EQ(add(R"("at":5)"), R"({"error":{"number":9,"description":"下标越界: 5"}})");
+  EXPECT_EQ(add(R"("at":0)"), R"({"error":{"number":9,"description":"下标越界: 0"}})");
+  EXPECT_EQ(refused(R"({"do":"add","on":"v","rows":"colRPBItems","at":"2"})"), 13);
+  EXPECT_NE(refused(R"({"do":"remove","on":"v","rows":"colRPBItems"})"), 0);
+  EXPECT_EQ(amounts(), "1 2 3 ");
+}
+
+TEST_F(HostRows, One_that_is_refused_leaves_no_gap_where_it_was_to_stand) {
+  EXPECT_NE(add(R"("at":2,"row":{"Amount":"much"})").find("\"number\":13"), std::string::npos);
+  EXPECT_EQ(amounts(), "1 2 3 ");
+}
+
 TEST_F(HostObjects, A_refused_row_is_not_added) {
   said(R"({"do":"new","as":"b","class":"clsOthersInBill"})");
   said(R"({"do":"add","on":"b","rows":"colBillItems","row":{"Gid":"G1","Qty":0.1,"price":"1.0001"}})");

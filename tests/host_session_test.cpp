@@ -139,6 +139,40 @@ TEST_F(HostSession, A_failure_without_a_sensible_place_is_refused) {
   EXPECT_EQ(answer(save).at("result"), 0);
 }
 
+constexpr std::string_view stored = R"({"do":"sql","text":"select Id from StockBill"})";
+constexpr std::string_view begin = R"({"do":"transaction","is":"begin"})";
+constexpr std::string_view commit = R"({"do":"transaction","is":"commit"})";
+constexpr std::string_view rollback = R"({"do":"transaction","is":"rollback"})";
+
+TEST_F(HostSession, A_transaction_of_the_host_takes_back_the_verbs_in_it) {
+  EXPECT_EQ(interpreter.answer(begin), R"({"line":3,"ok":true})");
+  EXPECT_EQ(answer(save).at("result"), 0);
+  EXPECT_EQ(answer(stored).at("rows").dump(), R"([["QTR24030500001"]])");
+  EXPECT_EQ(answer(rollback).at("ok"), true);
+  EXPECT_EQ(answer(stored).at("rows").dump(), "[]");
+}
+
+TEST_F(HostSession, A_transaction_of_the_host_that_is_committed_keeps_the_verbs_in_it) {
+  answer(begin);
+  EXPECT_EQ(answer(save).at("result"), 0);
+  EXPECT_EQ(answer(commit).at("ok"), true);
+  EXPECT_EQ(answer(rollback).at("error").at("number"), -2147467259);
+  EXPECT_EQ(answer(stored).at("rows").dump(), R"([["QTR24030500001"]])");
+}
+
+TEST_F(HostSession, A_transaction_that_the_database_refuses_is_an_error_of_the_host) {
+  EXPECT_NE(answer(commit).at("error").at("description").dump().find("no transaction is active"), std::string::npos);
+  answer(begin);
+  EXPECT_NE(answer(begin).at("error").at("description").dump().find("within a transaction"), std::string::npos);
+  EXPECT_EQ(answer(R"({"do":"transaction","is":"open"})").at("error").at("number"), 13);
+}
+
+TEST_F(HostSession, A_transaction_is_neither_traced_nor_counted_by_a_rehearsal) {
+  answer(R"({"do":"fail","at":1,"of":"any","number":6})");
+  EXPECT_EQ(answer(begin).dump(), R"({"line":4,"ok":true})");
+  EXPECT_EQ(answer(save).at("result"), 6);
+}
+
 TEST_F(HostSession, The_host_s_own_statement_answers_columns_and_rows_also_without_any) {
   EXPECT_EQ(interpreter.answer(R"({"do":"sql","text":"select id,WName from Warehouse"})"),
             R"({"line":3,"columns":["id","WName"],"rows":[]})");

@@ -1,5 +1,6 @@
 #include "brunvik/ado/clock.h"
 
+#include <cstdio>
 #include <ctime>
 #include <utility>
 
@@ -30,8 +31,12 @@ void set_notice(NoticeHandler handler) { the_handler = std::move(handler); }
 void show_notice(std::string_view text) noexcept { show_notice("提示信息", text); }
 
 void show_notice(std::string_view title, std::string_view text) noexcept {
-  if (!the_handler) return;
   try {
+    if (!the_handler) {
+      const std::string line = std::string(title).append(": ").append(text).append("\n");
+      std::fwrite(line.data(), 1, line.size(), stderr);
+      return;
+    }
     the_handler({std::string(title), std::string(text)});
   } catch (...) {
     // A message box that fails must not stop the bookkeeping behind it.

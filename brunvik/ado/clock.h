@@ -1,7 +1,7 @@
 // The clock and the notice: the two things beside a database that the library asks of its host.
 //
 // Both belong to the thread on which they are set, as the session does. A thread that sets none has the system's
-// local time and drops its notices.
+// local time, and its notices go to standard error.
 #pragma once
 
 #include <functional>
@@ -26,7 +26,8 @@ struct Notice {
 
 using NoticeHandler = std::function<void(const Notice&)>;
 
-// The handler must not throw: what it throws is dropped, since the work behind a notice carries on.
+// An empty handler brings standard error back, a line "提示信息: ..." for each notice, so that none is lost unseen. The
+// handler must not throw: what it throws is dropped, since the work behind a notice carries on.
 void set_notice(NoticeHandler handler);
 
 // Under the usual title, 提示信息.

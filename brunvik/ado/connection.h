@@ -10,6 +10,7 @@
 #include "brunvik/ado/recordset.h"
 #include "brunvik/ado/types.h"
 #include "brunvik/ado/value.h"
+#include "brunvik/ado/wire.h"
 
 namespace brunvik::ado {
 
@@ -26,7 +27,12 @@ class Connection : public Object {
 
 using ConnectionReference = std::shared_ptr<Connection>;
 
-// Execute on a connection that may be unset, which is error 91.
-Recordset execute(const ConnectionReference& connection, std::string_view statement);
+// Hands a statement to a connection, and tells the host's hook, if it has set one. Throws what the connection throws;
+// an error that doesn't name its statement gets this one.
+Recordset send(Connection& connection, std::string_view statement, Road road);
+
+// The same on a connection that may be unset, which is error 91. All but a bill's own statements take the session's
+// road.
+Recordset execute(const ConnectionReference& connection, std::string_view statement, Road road = Road::session);
 
 }  // namespace brunvik::ado

@@ -53,6 +53,8 @@ RuntimeError::RuntimeError(Long number) : RuntimeError(number, std::string(error
 RuntimeError::RuntimeError(Long number, std::string description, std::string statement)
     : number_(number), description_(std::move(description)), statement_(std::move(statement)) {}
 
-void raise(Long number) { throw RuntimeError(number); }
+void raise(Long number, std::string_view statement) {
+  throw RuntimeError(number, std::string(error_text(number)), std::string(statement));
+}
 
 }  // namespace brunvik::ado

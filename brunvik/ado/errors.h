@@ -5,6 +5,7 @@
 #pragma once
 
 #include <exception>
+#include <new>
 #include <string>
 #include <string_view>
 
@@ -56,7 +57,7 @@ class RuntimeError : public std::exception {
   Long number() const noexcept { return number_; }
   const std::string& description() const noexcept { return description_; }
 
-  // The statement that failed, empty where no statement was at work.
+  // The statement that failed or could not be sent, empty where no statement was at work.
   const std::string& statement() const noexcept { return statement_; }
 
   const char* what() const noexcept override { return description_.c_str(); }
@@ -67,6 +68,28 @@ class RuntimeError : public std::exception {
   std::string statement_;
 };
 
-[[noreturn]] void raise(Long number);
+[[noreturn]] void raise(Long number, std::string_view statement = {});
+
+// An error as it passes by.
+struct SeenError {
+  Long number;
+  std::string_view text;
+  std::string_view statement;
+};
+
+// In a catch clause: calls `see` with the exception at hand as an error, whatever was thrown. The library throws
+// run-time errors alone, but a host's connection or clock may throw anything: 7 where memory ran out, else 51.
+template <class See>
+void see_current_error(See&& see) {
+  try {
+    throw;
+  } catch (const RuntimeError& failure) {
+    see(SeenError{failure.number(), failure.description(), failure.statement()});
+  } catch (const std::bad_alloc&) {
+    see(SeenError{error::out_of_memory, error_text(error::out_of_memory), {}});
+  } catch (...) {
+    see(SeenError{error::internal, error_text(error::internal), {}});
+  }
+}
 
 }  // namespace brunvik::ado

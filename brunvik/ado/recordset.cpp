@@ -55,9 +55,9 @@ void Recordset::set_active_connection(std::shared_ptr<Connection> connection) {
 }
 
 void Recordset::Open(std::string_view source) {
-  if (!connection_ || connection_->State() == 0) raise(error::connection_closed);
+  if (!connection_ || connection_->State() == 0) raise(error::connection_closed, source);
   auto connection = connection_;
-  *this = connection->Execute(source);
+  *this = send(*connection, source, Road::session);
   connection_ = std::move(connection);
 }
 
@@ -97,9 +97,9 @@ const Value& Recordset::value(Column column) const {
   return cells_[record_ * width_ + static_cast<std::size_t>(column)];
 }
 
-Recordset execute(const ConnectionReference& connection, std::string_view statement) {
-  if (!connection) raise(error::object_not_set);
-  return connection->Execute(statement);
+Recordset execute(const ConnectionReference& connection, std::string_view statement, Road road) {
+  if (!connection) raise(error::object_not_set, statement);
+  return send(*connection, statement, road);
 }
 
 }  // namespace brunvik::ado

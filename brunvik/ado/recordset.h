@@ -55,7 +55,8 @@ class Recordset : public Object {
   // The connection on which Open runs, unset in a new set.
   void set_active_connection(std::shared_ptr<Connection> connection);
 
-  // Runs the statement on the active connection and becomes its result. Error 3709 without an open connection.
+  // Runs the statement on the active connection and becomes its result; a host's hook sees it on the session's road.
+  // Error 3709 without an open connection.
   void Open(std::string_view source);
 
   // No record (EOF): behind the last one, or none at all. Error 3704 on a closed set.

@@ -7,6 +7,7 @@
 #include "brunvik/ado/names.h"
 #include "brunvik/automation/family.h"
 #include "brunvik/foundation/goods_record.h"
+#include "brunvik/foundation/last_failure.h"
 #include "brunvik/stock/InitBrunvikVariable.h"
 
 namespace brunvik::automation {
@@ -80,6 +81,7 @@ const Procedure& procedure_named(std::string_view name) {
 
 Value call_procedure(std::string_view name, std::vector<Value>& arguments) {
   const Procedure& procedure = procedure_named(name);
+  const detail::WithinCall this_call;
   complete_arguments(procedure.parameters, arguments);
   return procedure.call(arguments);
 }

@@ -89,7 +89,7 @@ class Bill : public PublicObject {
   virtual void find_near(const std::string& current, std::string& near, bool next, std::string_view series) = 0;
 
   // On the bill's own connection; error 91 where it is unset.
-  ado::Recordset execute(std::string_view statement) const { return ado::execute(ADOConn, statement); }
+  ado::Recordset execute(std::string_view statement) const { return ado::execute(ADOConn, statement, ado::Road::bill); }
 
   // Fills the properties from the set's record, where there is one.
   void read_properties(const ado::Recordset& set);

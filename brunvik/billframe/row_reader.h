@@ -28,7 +28,7 @@ void read_rows(RowCollection& rows, ado::Recordset set, const RowMembers& member
       finish(row, set);
     } catch (...) {
       // A row counts when all of it is read: a voucher must not settle the row whose bill it could not look at.
-      rows.remove_last();
+      rows.remove(rows.Count());
       throw;
     }
   }

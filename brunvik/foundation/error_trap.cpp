@@ -1,6 +1,5 @@
 #include "brunvik/foundation/error_trap.h"
 
-#include <new>
 #include <string>
 
 #include "brunvik/ado/clock.h"
@@ -10,23 +9,21 @@ namespace brunvik::detail {
 
 namespace {
 
-// Calls `seen(number, text)` for an error and gives its number; a Stop has been told already.
-template <class Seen>
-Long classify(Seen&& seen) noexcept {
+// Keeps an error as the last failure, calls `told(text)` for it and gives its number; a Stop has been told already.
+template <class Told>
+Long classify(Told&& told) noexcept {
   try {
     throw;
   } catch (const Stop& stop) {
     return stop.result;
-  } catch (const ado::RuntimeError& failure) {
-    seen(failure.description());
-    return failure.number();
-  } catch (const std::bad_alloc&) {
-    seen(ado::error_text(ado::error::out_of_memory));
-    return ado::error::out_of_memory;
   } catch (...) {
-    // Nothing in the library throws anything else, but a host's connection or clock may.
-    seen(ado::error_text(ado::error::internal));
-    return ado::error::internal;
+    Long number = 0;
+    ado::see_current_error([&](const ado::SeenError& error) {
+      number = error.number;
+      keep_failure(error);
+      told(error.text);
+    });
+    return number;
   }
 }
 

@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "brunvik/ado/types.h"
+#include "brunvik/foundation/last_failure.h"
 
 namespace brunvik {
 
@@ -25,8 +26,8 @@ inline void stop_unless_done(Long result) {
 
 namespace detail {
 
-// The result of the exception at hand. With a tag, the Error Notice is shown: the tag directly followed by the error's
-// text, under the title given.
+// The result of the exception at hand, which becomes the last failure if it isn't a Stop. With a tag, the Error Notice
+// is shown: the tag directly followed by the error's text, under the title given.
 Long result_of_current_exception() noexcept;
 Long notify_of_current_exception(std::string_view tag, std::string_view title) noexcept;
 
@@ -37,6 +38,7 @@ inline constexpr std::string_view notice_title = "提示信息";
 // Runs the body: 0, or the number of the error that stopped it. Shows nothing.
 template <class Body>
 Long trap(Body&& body) noexcept {
+  const detail::WithinCall call;
   try {
     std::forward<Body>(body)();
     return 0;
@@ -48,6 +50,7 @@ Long trap(Body&& body) noexcept {
 // The same, and an error shows the Error Notice.
 template <class Body>
 Long trap(std::string_view tag, Body&& body, std::string_view title = notice_title) noexcept {
+  const detail::WithinCall call;
   try {
     std::forward<Body>(body)();
     return 0;

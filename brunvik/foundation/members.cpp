@@ -4,6 +4,7 @@
 
 #include "brunvik/ado/errors.h"
 #include "brunvik/ado/names.h"
+#include "brunvik/foundation/last_failure.h"
 #include "brunvik/foundation/sql_text.h"
 
 namespace brunvik {
@@ -221,6 +222,7 @@ RowCollection& Member::rows(PublicObject& object) const {
 
 Value Member::call(PublicObject& object, std::vector<Value>& arguments) const {
   if (!call_) ado::raise(ado::error::no_such_member);
+  const detail::WithinCall this_call;
   complete_arguments(parameters_, arguments);
   return call_(object, arguments);
 }
