@@ -1,4 +1,5 @@
-// What a host includes: the session, the clock and the notice, amounts, errors, and every document.
+// What a host includes: the session, the clock, the notice and the wire, amounts, errors, the last failure, and every
+// document.
 //
 //   #include "brunvik/brunvik.h"
 //   #include "drivers/sqlite/connection.h"
@@ -10,8 +11,10 @@
 #include "brunvik/ado/connection.h"
 #include "brunvik/ado/errors.h"
 #include "brunvik/ado/money.h"
+#include "brunvik/ado/wire.h"
 #include "brunvik/billframe/stock_row.h"
 #include "brunvik/foundation/Brunvik_Variable.h"
+#include "brunvik/foundation/last_failure.h"
 #include "brunvik/purchasing/cost_sharing.h"
 #include "brunvik/purchasing/goods_arrival.h"
 #include "brunvik/purchasing/purchase_order.h"

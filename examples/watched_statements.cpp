@@ -2,11 +2,7 @@
 // the end what the number of a verb that failed stands for.
 #include <iostream>
 
-#include "brunvik/ado/wire.h"
-#include "brunvik/foundation/Brunvik_Variable.h"
-#include "brunvik/foundation/last_failure.h"
-#include "brunvik/stock/InitBrunvikVariable.h"
-#include "brunvik/warehouse/stock_adjustment.h"
+#include "brunvik/brunvik.h"
 #include "drivers/sqlite/connection.h"
 #include "schema/ddl.h"
 
