@@ -6,6 +6,7 @@
 
 #include "brunvik/ado/errors.h"
 #include "brunvik/automation/automation.h"
+#include "host/refusals.h"
 #include "host/values.h"
 
 namespace brunvik::host {
@@ -43,23 +44,21 @@ Interpreter::~Interpreter() {
 std::string Interpreter::answer(std::string_view text) {
   ++lines_;
   Json line;
-  Command command = nullptr;
   try {
     line = parse_object(text);
-    const Json* name = find(line, "do");
-    command = name && name->is_string() ? command_named(name->get_ref<const std::string&>()) : nullptr;
   } catch (const std::runtime_error& reason) {
     throw UnreadableLine(lines_, reason.what());
   }
-  if (!command) throw UnreadableLine(lines_, "\"do\" names nothing that can be done");
 
   Json answer{{"line", lines_}};
   const auto refused = [&](Long number, std::string_view description) {
+    ++refused_;
     answer = {{"line", lines_}, {"error", error_json(number, description)}};
   };
   trace_->take();
   notices_.clear();
   try {
+    const Command command = command_named(text_member(line, "do"));
     (this->*command)(line, answer);
   } catch (const ado::RuntimeError& failure) {
     refused(failure.number(), failure.description());
@@ -93,10 +92,12 @@ Interpreter::Command Interpreter::command_named(std::string_view name) {
       Entry{"fail", &Interpreter::rehearse_failure},
       Entry{"transaction", &Interpreter::run_transaction},
   };
+  std::vector<std::string_view> names;
   for (const Entry& entry : commands) {
     if (entry.name == name) return entry.command;
+    names.push_back(entry.name);
   }
-  return nullptr;
+  refuse(error::no_such_member, name, there_is(names));
 }
 
 // The start of a session is handed the session's connection, every document the bills'.

@@ -27,7 +27,7 @@ struct Settings {
   bool trace = false;
 };
 
-// A line that is no JSON object, or doesn't say what is to be done.
+// A line that is no JSON object.
 class UnreadableLine : public std::runtime_error {
  public:
   UnreadableLine(std::size_t line, const std::string& reason)
@@ -53,8 +53,12 @@ class Interpreter {
   // How many verbs and procedures were called.
   std::size_t calls() const noexcept { return calls_; }
 
+  // How many lines were answered by an error.
+  std::size_t refused() const noexcept { return refused_; }
+
  private:
   using Command = void (Interpreter::*)(const Json& line, Json& answer);
+  // Error 438, with the words that there are, for any other.
   static Command command_named(std::string_view name);
 
   void make_object(const Json& line, Json& answer);
@@ -101,6 +105,7 @@ class Interpreter {
   std::vector<ado::Notice> notices_;
   std::size_t lines_ = 0;
   std::size_t calls_ = 0;
+  std::size_t refused_ = 0;
 };
 
 }  // namespace brunvik::host

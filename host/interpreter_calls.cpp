@@ -2,9 +2,11 @@
 #include <nlohmann/json.hpp>
 
 #include "brunvik/ado/errors.h"
+#include "brunvik/ado/names.h"
 #include "brunvik/automation/automation.h"
 #include "brunvik/foundation/last_failure.h"
 #include "host/interpreter.h"
+#include "host/refusals.h"
 #include "host/values.h"
 
 namespace brunvik::host {
@@ -16,16 +18,23 @@ const Json& arguments_in(const Json& line) {
   return member_or(line, "args", no_arguments);
 }
 
+const Procedure& procedure_by(std::string_view name) {
+  std::vector<std::string_view> names;
+  for (const Procedure& procedure : automation::procedures()) {
+    if (ado::same_name(procedure.name, name)) return procedure;
+    names.push_back(procedure.name);
+  }
+  refuse(ado::error::no_such_member, name, there_is(names));
+}
+
 }  // namespace
 
 void Interpreter::call(const Json& line, Json& answer) {
   PublicObject& object = object_of(line);
   const std::string& verb = text_member(line, "verb");
-  const Member& member =
-      named(verb, [&](std::string_view name) -> const Member& { return object.members().named(name); });
-  if (member.kind() != MemberKind::verb) refuse(ado::error::no_such_member, verb);
+  const Member& member = member_for(Use::call, object, verb);
   const Json& given = arguments_in(line);
-  std::vector<Value> arguments = to_arguments(given, member.parameters());
+  std::vector<Value> arguments = to_arguments(member.name(), given, member.parameters());
   ++calls_;
   const Value result = automation::call(object, verb, arguments);
   // The verb was a start of the session.
@@ -37,10 +46,9 @@ void Interpreter::call(const Json& line, Json& answer) {
 
 void Interpreter::call_procedure(const Json& line, Json& answer) {
   const std::string& name = text_member(line, "name");
-  const Procedure& procedure =
-      named(name, [](std::string_view wanted) -> const Procedure& { return automation::procedure_named(wanted); });
+  const Procedure& procedure = procedure_by(name);
   const Json& given = arguments_in(line);
-  std::vector<Value> arguments = to_arguments(given, procedure.parameters);
+  std::vector<Value> arguments = to_arguments(procedure.name, given, procedure.parameters);
   ++calls_;
   const Value result = automation::call_procedure(name, arguments);
   answer["result"] = procedure.result == Type::Nothing ? Json(nullptr) : to_json(result);

@@ -4,6 +4,7 @@
 #include "brunvik/ado/errors.h"
 #include "brunvik/automation/automation.h"
 #include "host/interpreter.h"
+#include "host/refusals.h"
 #include "host/values.h"
 
 namespace brunvik::host {
@@ -35,8 +36,7 @@ PublicObject& Interpreter::object_of(const Json& line) {
 
 RowCollection& Interpreter::rows_of(const Json& line) {
   PublicObject& object = object_of(line);
-  return named(text_member(line, "rows"),
-               [&](std::string_view name) -> RowCollection& { return automation::rows(object, name); });
+  return member_for(Use::rows, object, text_member(line, "rows")).rows(object);
 }
 
 void Interpreter::make_object(const Json& line, Json& answer) {
@@ -50,9 +50,7 @@ void Interpreter::make_object(const Json& line, Json& answer) {
 
 void Interpreter::put(const Json& line, Json& answer) {
   PublicObject& object = object_of(line);
-  const Json* values = find(line, "values");
-  if (!values) refuse(error::type_mismatch, "values");
-  put_properties(object, *values);
+  put_properties(object, needed(line, "values"));
   answer["ok"] = true;
 }
 
@@ -68,7 +66,7 @@ void Interpreter::get(const Json& line, Json& answer) {
   for (const Json& name : *names) {
     if (!name.is_string()) refuse(error::type_mismatch, "names");
     const auto& text = name.get_ref<const std::string&>();
-    values[text] = to_json(named(text, [&](std::string_view member) { return automation::get(object, member); }));
+    values[text] = to_json(member_for(Use::get, object, text).get(object));
   }
   answer["values"] = std::move(values);
 }
@@ -81,7 +79,7 @@ void Interpreter::add(const Json& line, Json& answer) {
 
 void Interpreter::edit(const Json& line, Json& answer) {
   RowCollection& rows = rows_of(line);
-  put_properties(rows.at(place_in(line, rows.Count())), row_in(line));
+  put_properties(rows.at(place_in(line, rows.Count())), needed(line, "row"));
   answer["count"] = rows.Count();
 }
 

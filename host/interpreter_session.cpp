@@ -4,6 +4,7 @@
 #include "brunvik/ado/errors.h"
 #include "brunvik/automation/automation.h"
 #include "host/interpreter.h"
+#include "host/refusals.h"
 #include "host/values.h"
 
 namespace brunvik::host {

@@ -5,36 +5,25 @@
 #include <string>
 #include <string_view>
 
-#include "brunvik/ado/errors.h"
+#include "brunvik/ado/types.h"
 
 namespace brunvik::host {
 
 using Json = nlohmann::ordered_json;
 
-// Reads one JSON object. Throws a std::runtime_error that says why a text is none.
+// Reads one JSON object; a member that comes twice has its last value. Throws a std::runtime_error that says why a text
+// is none, in a few words however long the text is.
 Json parse_object(std::string_view text);
 
 // On one line. What isn't UTF-8 is written as the replacement character.
 std::string one_line(const Json& json);
 
-// Members of a line. A value of another type is error 13, and so is a missing one where there is no default.
+// Members of a line. A missing one is error 450 where there is no default, a value of another type error 13.
 const Json* find(const Json& object, std::string_view name);
+const Json& needed(const Json& object, std::string_view name);
 const std::string& text_member(const Json& object, std::string_view name);
 std::string text_member(const Json& object, std::string_view name, std::string_view default_text);
 const Json& member_or(const Json& object, std::string_view name, const Json& otherwise);
 Long long_member(const Json& object, std::string_view name);
-
-// A run-time error that names what it is about.
-[[noreturn]] void refuse(Long number, std::string_view what);
-
-// What is found by a name; where it isn't, the error says which name it was.
-template <class Find>
-auto named(std::string_view name, Find&& find) -> decltype(find(name)) {
-  try {
-    return find(name);
-  } catch (const ado::RuntimeError& failure) {
-    refuse(failure.number(), name);
-  }
-}
 
 }  // namespace brunvik::host

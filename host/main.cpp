@@ -1,4 +1,6 @@
 // The brunvik command: a host without screens.
+#include <unistd.h>
+
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cstdio>
@@ -15,13 +17,14 @@
 #include "host/laid_tables.h"
 #include "host/progress.h"
 #include "host/run.h"
+#include "host/usage.h"
 #include "schema/ddl.h"
 
 namespace {
 
 using namespace brunvik;
 
-enum Status { done = 0, no_database = 1, bad_usage = 2 };
+enum Status { done = 0, no_database = 1, bad_usage = 2, line_refused = 3 };
 
 struct Options {
   // The word by which the command was called.
@@ -33,6 +36,7 @@ struct Options {
   std::string now;
   std::vector<std::string> files;
   std::string class_name;
+  bool procedures = false;
   bool json = false;
   std::string engine = "sqlite";
   // Whether what a database lacks is laid.
@@ -42,13 +46,30 @@ struct Options {
   bool list = false;
 };
 
-void add_session_options(CLI::App& command, Options& options) {
-  command.add_option("--db", options.database, "The database: sqlite:PATH or sqlite::memory:")->type_name("URL");
+// Empty for the time of a clock, else what is wrong with it.
+std::string no_time(const std::string& text) {
+  try {
+    ado::parse_date(text);
+    return {};
+  } catch (const ado::RuntimeError&) {
+    return "it takes a time like \"2024-03-05 10:00:00\"";
+  }
+}
+
+void add_session_options(CLI::App& command, Options& options, const std::string& otherwise) {
+  command
+      .add_option("--db", options.database,
+                  "The database, sqlite:PATH or sqlite::memory:; " + otherwise + " unless given")
+      ->type_name("URL");
   command.add_option("--dialect", options.dialect, "The dialect of the statements; sqlserver unless given")
       ->type_name("NAME")
       ->check(CLI::IsMember(std::vector<std::string>{"sqlserver", "access"}));
-  command.add_option("--now", options.now, "Fixes the clock, as in \"2024-03-05 10:00:00\"")->type_name("TIME");
-  command.add_flag("--trace", options.settings.trace, "Shows the statements that each verb sends");
+  command
+      .add_option("--now", options.now,
+                  "Fixes the clock, as in \"2024-03-05 10:00:00\"; the system's clock unless given")
+      ->type_name("TIME")
+      ->check(CLI::Validator(no_time, ""));
+  command.add_flag("--trace", options.settings.trace, "Shows the statements that each verb sends; off unless given");
 }
 
 void fix_clock(const std::string& now) {
@@ -58,6 +79,9 @@ void fix_clock(const std::string& now) {
 }
 
 int run_command(const Options& options) {
+  if (options.database.empty() && isatty(STDERR_FILENO) == 1) {
+    std::cerr << "brunvik: no --db is given; the books are in memory, and gone when the run ends\n";
+  }
   host::Interpreter interpreter(
       host::open_database(options.database.empty() ? std::string(host::in_memory) : options.database, options.create),
       options.settings);
@@ -71,7 +95,7 @@ int run_command(const Options& options) {
     }
     host::run(interpreter, lines, std::cout, progress);
   }
-  return done;
+  return interpreter.refused() == 0 ? done : line_refused;
 }
 
 int demo_command(const Options& options) {
@@ -90,6 +114,10 @@ int demo_command(const Options& options) {
 }
 
 int describe_command(const Options& options) {
+  if (options.procedures) {
+    std::cout << (options.json ? host::describe_procedures_json() : host::describe_procedures());
+    return done;
+  }
   if (options.class_name.empty()) {
     std::cout << (options.json ? host::describe_classes_json() : host::describe_classes());
     return done;
@@ -98,8 +126,8 @@ int describe_command(const Options& options) {
     std::cout << (options.json ? host::describe_class_json(options.class_name)
                                : host::describe_class(options.class_name));
     return done;
-  } catch (const ado::RuntimeError&) {
-    std::cerr << "brunvik: there is no class " << options.class_name << "; brunvik describe lists them\n";
+  } catch (const ado::RuntimeError& failure) {
+    std::cerr << "brunvik: " << failure.description() << ", and the classes that brunvik describe lists\n";
     return bad_usage;
   }
 }
@@ -118,12 +146,7 @@ int schema_command(const Options& options) {
 
 // What goes wrong before the first line is done, in the order in which it is found out.
 int carried_out(int (*command)(const Options&), const Options& options) {
-  try {
-    fix_clock(options.now);
-  } catch (const ado::RuntimeError&) {
-    std::cerr << "brunvik: --now takes a time like \"2024-03-05 10:00:00\"\n";
-    return bad_usage;
-  }
+  fix_clock(options.now);
   try {
     return command(options);
   } catch (const host::UnknownAddress& failure) {
@@ -148,17 +171,21 @@ int parsed_and_carried_out(int count, char** words) {
   CLI::App& demo = *app.add_subcommand("demo", "Plays a story in a fresh database, and shows what each verb changes");
   demo.add_option("NAME", options.story, "The story; counter-sale unless given");
   demo.add_flag("--list", options.list, "Names the stories, with a line for each");
-  add_session_options(demo, options);
+  add_session_options(demo, options, "a fresh file");
 
   CLI::App& run = *app.add_subcommand("run", "Carries out JSON Lines, one answer a line");
-  add_session_options(run, options);
-  run.add_flag("--create", options.create, "Lays the tables when the database is empty");
-  run.add_option("--operator", options.settings.operator_id, "Who is logged in")->type_name("ID");
+  add_session_options(run, options, "in memory");
+  run.add_flag("--create", options.create,
+               "Lays the tables when the database is empty; a database in memory always has them");
+  run.add_option("--operator", options.settings.operator_id, "Who is logged in; nobody unless given")->type_name("ID");
   run.add_option("FILE", options.files, "The lines; standard input where none is named")->check(CLI::ExistingFile);
 
-  CLI::App& describe = *app.add_subcommand("describe", "Lists the public classes, or the members of one");
-  describe.add_option("CLASS", options.class_name);
-  describe.add_flag("--json", options.json, "As JSON");
+  CLI::App& describe = *app.add_subcommand(
+      "describe", "Lists the public classes, the members of one or of a row record, or the module procedures");
+  CLI::Option& name =
+      *describe.add_option("NAME", options.class_name, "A class or a row record; all classes unless given");
+  describe.add_flag("--procedures", options.procedures, "The module procedures")->excludes(&name);
+  describe.add_flag("--json", options.json, "As one JSON value; a line each unless given");
 
   CLI::App& schema = *app.add_subcommand("schema", "Prints the statements that lay the tables");
   CLI::Option* engine = schema.add_option("--engine", options.engine, "The database engine: sqlite")
@@ -168,10 +195,15 @@ int parsed_and_carried_out(int count, char** words) {
                               ->excludes(engine);
   schema.add_flag("--apply", options.apply, "Lays what the database lacks, and takes nothing away")->needs(database);
 
+  // The subcommands would take it over if they came after it.
+  app.footer(host::usage_footer);
+
   try {
     app.parse(count, words);
   } catch (const CLI::ParseError& failure) {
-    return app.exit(failure) == 0 ? done : bad_usage;
+    if (failure.get_exit_code() == 0) return app.exit(failure);
+    std::cerr << "brunvik: " << host::bad_usage(app, failure.what()) << "\nbrunvik --help tells more\n";
+    return bad_usage;
   }
   if (options.dialect == "access") options.settings.dialect = "[Microsoft Access]";
   if (describe.parsed()) return describe_command(options);

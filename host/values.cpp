@@ -1,5 +1,7 @@
 #include "host/values.h"
 
+#include <fmt/format.h>
+
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
@@ -13,6 +15,7 @@
 #include "brunvik/ado/names.h"
 #include "brunvik/ado/numbers.h"
 #include "brunvik/automation/automation.h"
+#include "host/refusals.h"
 
 namespace brunvik::host {
 
@@ -51,9 +54,13 @@ Value array_value(const Json& json) {
   return items;
 }
 
+std::shared_ptr<RowCollection> rows_of_class(const Json& json) {
+  return named(text_member(json, "class", "StockRow"), automation::create_rows);
+}
+
 // A row that a new collection of its class holds.
 ado::ObjectReference row_value(const Json& json, const Json& values) {
-  const std::shared_ptr<RowCollection> rows = automation::create_rows(text_member(json, "class", "StockRow"));
+  const std::shared_ptr<RowCollection> rows = rows_of_class(json);
   PublicObject& row = rows->add();
   put_properties(row, values);
   return std::shared_ptr<PublicObject>(rows, &row);
@@ -66,7 +73,7 @@ ado::ObjectReference filled(std::shared_ptr<RowCollection> rows, const Json& all
 }
 
 ado::ObjectReference rows_value(const Json& json, const Json& all_values) {
-  return filled(automation::create_rows(text_member(json, "class", "StockRow")), all_values);
+  return filled(rows_of_class(json), all_values);
 }
 
 // {"money":"1.5"} and its like: one member that says the type, and a record's class beside it.
@@ -178,18 +185,20 @@ Json properties_of(const PublicObject& object) {
 void put_properties(PublicObject& object, const Json& values) {
   if (!values.is_object()) ado::raise(error::type_mismatch);
   std::vector<std::pair<const Member*, Value>> before;
-  const std::string* name = nullptr;
   try {
     for (const auto& [key, json] : values.items()) {
-      name = &key;
-      const Member& member = object.members().named(key);
+      const Member& member = member_for(Use::put, object, key);
       Value present = member.get(object);
-      member.put(object, to_value(json, member.type()));
+      try {
+        member.put(object, to_value(json, member.type()));
+      } catch (const ado::RuntimeError& failure) {
+        throw ado::RuntimeError(failure.number(), failure.description() + ": " + key);
+      }
       before.emplace_back(&member, std::move(present));
     }
-  } catch (const ado::RuntimeError& failure) {
+  } catch (const ado::RuntimeError&) {
     for (; !before.empty(); before.pop_back()) before.back().first->put(object, before.back().second);
-    throw ado::RuntimeError(failure.number(), failure.description() + ": " + *name);
+    throw;
   }
 }
 
@@ -203,12 +212,27 @@ void add_row(RowCollection& rows, std::size_t position, const Json& values) {
   }
 }
 
-std::vector<Value> to_arguments(const Json& given, const std::vector<Parameter>& parameters) {
-  if (!given.is_array()) ado::raise(error::type_mismatch);
-  if (given.size() > parameters.size()) ado::raise(error::wrong_argument_count);
+std::vector<Value> to_arguments(std::string_view name, const Json& given, const std::vector<Parameter>& parameters) {
+  if (!given.is_array()) refuse(error::type_mismatch, "args");
+  if (given.size() > parameters.size()) {
+    std::vector<std::string_view> names;
+    for (const Parameter& parameter : parameters) names.push_back(parameter.name);
+    refuse(error::wrong_argument_count, name,
+           fmt::format(" takes ({}), {} given", fmt::join(names, ", "), given.size()));
+  }
   std::vector<Value> arguments;
-  for (std::size_t place = 0; place < given.size(); ++place) {
-    arguments.push_back(to_argument(given[place], parameters[place]));
+  for (std::size_t place = 0; place < parameters.size(); ++place) {
+    const Parameter& parameter = parameters[place];
+    if (place < given.size()) {
+      try {
+        arguments.push_back(to_argument(given[place], parameter));
+      } catch (const ado::RuntimeError& failure) {
+        throw ado::RuntimeError(failure.number(),
+                                fmt::format("{}: {}: {}", failure.description(), name, parameter.name));
+      }
+    } else if (!parameter.may_be_left_out()) {
+      refuse(error::wrong_argument_count, name, fmt::format(": {} is missing", parameter.name));
+    }
   }
   return arguments;
 }

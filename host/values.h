@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <span>
+#include <string_view>
 #include <vector>
 
 #include "brunvik/ado/value.h"
@@ -27,8 +28,9 @@ void put_properties(PublicObject& object, const Json& values);
 // A new row of a collection that gets this position, with these properties; none where one is refused.
 void add_row(RowCollection& rows, std::size_t position, const Json& values);
 
-// The arguments of a call in their order, records made as the class that the parameter takes.
-std::vector<Value> to_arguments(const Json& given, const std::vector<Parameter>& parameters);
+// The arguments of a call in their order, records made as the class that the parameter takes. Error 450 for too many
+// and for a missing one that may not be left out, with the name of what is called and of the argument.
+std::vector<Value> to_arguments(std::string_view name, const Json& given, const std::vector<Parameter>& parameters);
 
 // What a call left in its by-reference arguments; the others as they were given.
 Json left_arguments(const Json& given, const std::vector<Parameter>& parameters, std::span<const Value> arguments);

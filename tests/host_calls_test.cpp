@@ -24,7 +24,7 @@ TEST_F(HostCalls, Arguments_by_value_come_back_as_they_came_and_omitted_ones_wit
 }
 
 TEST_F(HostCalls, A_wrong_count_of_arguments_is_refused) {
-  EXPECT_EQ(refused(R"({"do":"call","on":"b","verb":"GetNewId"})"), 450);
+  EXPECT_EQ(refused(R"({"do":"call","on":"b","verb":"LoadById"})"), 450);
   EXPECT_EQ(refused(R"({"do":"call","on":"b","verb":"Save","args":[1]})"), 450);
   EXPECT_EQ(refused(R"({"do":"proc","name":"EscapeLike","args":[]})"), 450);
   EXPECT_EQ(refused(R"({"do":"call","on":"b","verb":"Save","args":{}})"), 13);

@@ -11,9 +11,17 @@ namespace {
 const std::string count_of_goods = "{\"do\":\"sql\",\"text\":\"select count(*) as n from goods\"}\n";
 const std::string one_goods = "{\"do\":\"sql\",\"text\":\"insert into goods(id) values('G1')\"}\n";
 
-TEST(HostCommand, All_lines_carried_out_is_status_0_whatever_they_answered) {
-  const Ended ended = brunvik({"run"}, "{\"do\":\"get\",\"on\":\"x\"}\n" + count_of_goods);
+TEST(HostCommand, All_lines_carried_out_is_status_0_whatever_the_verbs_gave) {
+  const Ended ended = brunvik({"run"},
+                              "{\"do\":\"new\",\"as\":\"b\",\"class\":\"clsPayBill\"}\n"
+                              "{\"do\":\"call\",\"on\":\"b\",\"verb\":\"Save\"}\n");
   EXPECT_EQ(ended.status, 0);
+  EXPECT_EQ(ended.out, "{\"line\":1,\"ok\":true}\n{\"line\":2,\"result\":-1,\"args\":[]}\n");
+}
+
+TEST(HostCommand, A_refused_line_is_answered_in_its_place_and_is_status_3) {
+  const Ended ended = brunvik({"run"}, "{\"do\":\"get\",\"on\":\"x\"}\n" + count_of_goods);
+  EXPECT_EQ(ended.status, 3);
   EXPECT_EQ(ended.out,
             "{\"line\":1,\"error\":{\"number\":424,\"description\":\"要求对象: x\"}}\n"
             "{\"line\":2,\"columns\":[\"n\"],\"rows\":[[0]]}\n");
@@ -129,6 +137,7 @@ TEST(HostCommand, Bad_usage_is_status_2_and_says_why) {
                                                      {"demo", "--create"},
                                                      {"demo", "no-story"},
                                                      {"describe", "clsNone"},
+                                                     {"describe", "clsPayBill", "--procedures"},
                                                      {"schema", "--engine", "paper"}};
   for (const auto& usage : usages) {
     const Ended ended = brunvik(usage);
@@ -203,7 +212,7 @@ TEST(HostCommand, An_answer_comes_before_the_next_line_is_said) {
   };
   EXPECT_EQ(answer_to(one_goods), "{\"line\":1,\"columns\":[],\"rows\":[]}\n");
   EXPECT_EQ(answer_to(count_of_goods), "{\"line\":2,\"columns\":[\"n\"],\"rows\":[[1]]}\n");
-  EXPECT_EQ(answer_to("{}\n"), "");
+  EXPECT_EQ(answer_to("[]\n"), "");
   close(to[1]);
   close(from[0]);
   EXPECT_EQ(process.wait(), 2);

@@ -52,7 +52,7 @@ TEST(HostDescribe, A_member_line_tells_kind_type_and_column_or_the_signature) {
   EXPECT_NE(text.find("\nClosedtag         read-only property  Boolean  ClosedTag\n"), std::string::npos);
   EXPECT_NE(text.find("\ncolBillItems      collection          Collection\n"), std::string::npos);
   EXPECT_NE(text.find("\nGetNearId         verb                (CurBillID String, byref NearBillID String, "
-                      "optional NextPreviousId Boolean) Long\n"),
+                      "optional NextPreviousId Boolean = false) Long\n"),
             std::string::npos);
 }
 
@@ -70,8 +70,8 @@ TEST(HostDescribe, A_class_is_one_json_value) {
     if (member.at("name") != "LoadById") continue;
     EXPECT_EQ(member.dump(), R"({"name":"LoadById","kind":"verb","type":"Long","args":[)"
                              R"({"name":"BID","type":"String","byref":true,"optional":false},)"
-                             R"({"name":"lRowNum","type":"Long","byref":false,"optional":true},)"
-                             R"({"name":"bDHBJ","type":"Boolean","byref":false,"optional":true}]})");
+                             R"({"name":"lRowNum","type":"Long","byref":false,"optional":true,"default":-1},)"
+                             R"({"name":"bDHBJ","type":"Boolean","byref":false,"optional":true,"default":false}]})");
   }
 }
 
@@ -90,12 +90,49 @@ TEST(HostDescribe, All_classes_are_one_json_value) {
       R"({"class":"clsPurchaseInBill","document":"purchase receipt","table":"StockBill","prefix":"JHR","code":2})");
 }
 
-TEST(HostDescribe, A_class_that_does_not_exist_is_error_429) {
+TEST(HostDescribe, A_default_is_written_as_in_a_line_of_a_run) {
+  const std::string text = describe_class("clsSalesOutBill");
+  EXPECT_NE(text.find("(byref BID String, optional byref sIDQZ String = \"\") Long\n"), std::string::npos) << text;
+}
+
+TEST(HostDescribe, A_row_record_is_described_as_a_class_is) {
+  const std::string text = describe_class("stockrow");
+  EXPECT_TRUE(text.starts_with("BillId          property  String   BillId\n")) << text;
+  EXPECT_NE(text.find("\nprice           property  Money    price\n"), std::string::npos) << text;
+  const Json described = Json::parse(describe_class_json("stockrow"));
+  EXPECT_EQ(described.at("class"), "StockRow");
+  EXPECT_EQ(described.at("code"), nullptr);
+  EXPECT_EQ(described.at("members").at(1).dump(),
+            R"({"name":"Rownum","kind":"property","type":"Integer","args":[],"column":"RowNum"})");
+  for (const auto& record : automation::record_classes()) {
+    EXPECT_FALSE(lines_of(describe_class(record.name)).empty()) << record.name;
+  }
+}
+
+TEST(HostDescribe, Every_module_procedure_has_a_line_of_its_own) {
+  const auto lines = lines_of(describe_procedures());
+  ASSERT_EQ(lines.size(), automation::procedures().size());
+  EXPECT_EQ(lines.front(),
+            "GetSqlVal                   procedure  (byref Value Variant, optional IsLike Boolean = false, "
+            "optional WildCard String = \"[Drop]\", optional Position String = \"[Drop]\") String");
+  EXPECT_NE(describe_procedures().find("\nIsConnected                 procedure  () Boolean\n"), std::string::npos);
+  EXPECT_NE(describe_procedures().find("(optional byref Recordset Object = null)"), std::string::npos);
+}
+
+TEST(HostDescribe, All_module_procedures_are_one_json_value) {
+  const Json all = Json::parse(describe_procedures_json());
+  ASSERT_EQ(all.size(), automation::procedures().size());
+  EXPECT_EQ(all.at(1).dump(), R"({"name":"EscapeLike","kind":"procedure","type":"String","args":[)"
+                              R"({"name":"Text","type":"String","byref":false,"optional":false}]})");
+}
+
+TEST(HostDescribe, A_name_of_neither_class_nor_record_is_error_429_with_the_records_that_there_are) {
   try {
     describe_class("clsNone");
     FAIL();
   } catch (const ado::RuntimeError& failure) {
     EXPECT_EQ(failure.number(), 429);
+    EXPECT_NE(failure.description().find("clsNone; there is GoodsRecord, "), std::string::npos) << failure.description();
   }
 }
 

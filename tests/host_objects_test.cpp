@@ -58,7 +58,7 @@ TEST_F(HostObjects, What_no_member_has_or_takes_is_refused) {
   EXPECT_EQ(refused(R"({"do":"put","on":"b","values":{"Status":[2]}})"), 13);
   EXPECT_EQ(refused(R"({"do":"put","on":"b","values":{"Status":{"number":2}}})"), 13);
   EXPECT_EQ(refused(R"({"do":"put","on":"b","values":[1]})"), 13);
-  EXPECT_EQ(refused(R"({"do":"put","on":"b"})"), 13);
+  EXPECT_EQ(refused(R"({"do":"put","on":"b"})"), 450);
   EXPECT_EQ(refused(R"({"do":"put","on":1,"values":{}})"), 13);
   EXPECT_EQ(refused(R"({"do":"get","on":"b","names":"ID"})"), 13);
   EXPECT_EQ(refused(R"({"do":"rows","on":"b","rows":"ID"})"), 438);

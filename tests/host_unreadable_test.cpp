@@ -20,12 +20,9 @@ class HostUnreadable : public HostTest {
 TEST_F(HostUnreadable, The_line_and_the_reason_are_told) {
   EXPECT_EQ(reason(R"({"do":"new","as":"b","class":"clsPayBill"})"), "");
   EXPECT_EQ(reason("[1]"), "line 2: it is no JSON object");
-  EXPECT_EQ(reason(R"({"do":"nothing"})"), R"(line 3: "do" names nothing that can be done)");
-  EXPECT_EQ(reason(R"({"do":1})"), R"(line 4: "do" names nothing that can be done)");
-  EXPECT_EQ(reason("{}"), R"(line 5: "do" names nothing that can be done)");
-  EXPECT_TRUE(reason(R"({"do":"get")").starts_with("line 6: it is no JSON: column 12:"));
-  EXPECT_TRUE(reason("").starts_with("line 7: it is no JSON:"));
-  EXPECT_TRUE(reason(R"({"do":"get"} x)").starts_with("line 8: it is no JSON:"));
+  EXPECT_TRUE(reason(R"({"do":"get")").starts_with("line 3: it is no JSON: column 12:"));
+  EXPECT_TRUE(reason("").starts_with("line 4: it is no JSON:"));
+  EXPECT_TRUE(reason(R"({"do":"get"} x)").starts_with("line 5: it is no JSON:"));
 }
 
 TEST_F(HostUnreadable, Bytes_that_are_no_text_make_a_line_unreadable) {

@@ -55,8 +55,13 @@ TEST_F(LateBinding, An_omitted_argument_is_added_with_its_default) {
   EXPECT_EQ(arguments, (std::vector<Value>{Money(), Single{2}, false}));
 }
 
+TEST_F(LateBinding, An_argument_that_only_brings_something_back_may_be_left_out_at_the_end) {
+  EXPECT_EQ(call("GetNewId"), Value(Long{0}));
+  EXPECT_EQ(arguments, std::vector<Value>{"new "});
+}
+
 TEST_F(LateBinding, A_wrong_count_of_arguments_is_error_450) {
-  EXPECT_EQ(error_number([&] { call("GetNewId"); }), 450);
+  EXPECT_EQ(error_number([&] { call("Add"); }), 450);
   arguments = {"a", "b"};
   EXPECT_EQ(error_number([&] { call("GetNewId"); }), 450);
   arguments = {1};

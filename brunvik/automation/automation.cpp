@@ -31,17 +31,6 @@ std::ptrdiff_t place_in_catalogue(const Class& listed) {
   return std::find(kinds.begin(), kinds.end(), listed.kind) - kinds.begin();
 }
 
-std::span<const RecordClass> record_classes() {
-  static const std::vector<RecordClass> records = [] {
-    std::vector<RecordClass> all{record<GoodsRecord>("GoodsRecord")};
-    for (const auto family : families) {
-      for (const RecordClass& each : family().records) all.push_back(each);
-    }
-    return all;
-  }();
-  return records;
-}
-
 }  // namespace
 
 std::span<const Class> classes() {
@@ -84,6 +73,17 @@ Value call_procedure(std::string_view name, std::vector<Value>& arguments) {
   const detail::WithinCall this_call;
   complete_arguments(procedure.parameters, arguments);
   return procedure.call(arguments);
+}
+
+std::span<const RecordClass> record_classes() {
+  static const std::vector<RecordClass> records = [] {
+    std::vector<RecordClass> all{record<GoodsRecord>("GoodsRecord")};
+    for (const auto family : families) {
+      for (const RecordClass& each : family().records) all.push_back(each);
+    }
+    return all;
+  }();
+  return records;
 }
 
 std::shared_ptr<RowCollection> create_rows(std::string_view record_class) {

@@ -40,14 +40,22 @@ void put(PublicObject& object, std::string_view member, const Value& value);
 // The collection of rows of this name; it stays the object's.
 RowCollection& rows(PublicObject& object, std::string_view member);
 
-// Arguments come back as the verb left them: by-reference ones changed, omitted optional ones added.
+// Arguments come back as the verb left them: by-reference ones changed, those that were left out added.
 Value call(PublicObject& object, std::string_view member, std::vector<Value>& arguments);
 
 std::span<const Procedure> procedures();
 const Procedure& procedure_named(std::string_view name);
 Value call_procedure(std::string_view name, std::vector<Value>& arguments);
 
-// An empty collection of rows of a record class: StockRow, CountRow, PaymentRow and so on, or GoodsRecord.
+struct RecordClass {
+  std::string_view name;
+  std::shared_ptr<RowCollection> (*create_rows)();
+};
+
+// The classes of row records: StockRow and its like, and GoodsRecord.
+std::span<const RecordClass> record_classes();
+
+// An empty collection of rows of a record class.
 std::shared_ptr<RowCollection> create_rows(std::string_view record_class);
 
 }  // namespace brunvik::automation

@@ -10,11 +10,6 @@
 
 namespace brunvik::automation {
 
-struct RecordClass {
-  std::string_view name;
-  std::shared_ptr<RowCollection> (*create_rows)();
-};
-
 struct Family {
   std::vector<Class> classes;
   std::vector<RecordClass> records;

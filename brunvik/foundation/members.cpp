@@ -231,7 +231,7 @@ void complete_arguments(const std::vector<Parameter>& parameters, std::vector<Va
   if (arguments.size() > parameters.size()) ado::raise(ado::error::wrong_argument_count);
   while (arguments.size() < parameters.size()) {
     const Parameter& parameter = parameters[arguments.size()];
-    if (!parameter.optional) ado::raise(ado::error::wrong_argument_count);
+    if (!parameter.may_be_left_out()) ado::raise(ado::error::wrong_argument_count);
     arguments.push_back(parameter.default_value);
   }
 }

@@ -58,10 +58,20 @@ struct Parameter {
   Type type = Type::Variant;
   MakeRecord make_record = nullptr;
   MakeRows make_rows = nullptr;
+  // The argument only brings something back: what it held before the call means nothing.
+  bool only_out = false;
+
+  // At the end of the arguments: an optional one then counts as its default, one that only brings something back is
+  // given an empty value to fill.
+  bool may_be_left_out() const noexcept { return optional || only_out; }
 };
 
 inline Parameter in(std::string_view name) { return {name}; }
-inline Parameter out(std::string_view name) { return {name, true}; }
+inline Parameter out(std::string_view name) {
+  Parameter parameter{name, true};
+  parameter.only_out = true;
+  return parameter;
+}
 inline Parameter in_out(std::string_view name) { return {name, true}; }
 inline Parameter optional(Parameter parameter, Value default_value) {
   parameter.optional = true;
@@ -112,8 +122,8 @@ class Member {
   void put(PublicObject& object, const Value& value) const;
   RowCollection& rows(PublicObject& object) const;
 
-  // The arguments come back as the call left them. Optional ones may be missing at the end; error 450 for another
-  // count.
+  // The arguments come back as the call left them. Those that may be left out may be missing at the end; error 450 for
+  // another count.
   Value call(PublicObject& object, std::vector<Value>& arguments) const;
 
  private:
@@ -129,7 +139,7 @@ class Member {
   Call call_ = nullptr;
 };
 
-// Completes a list of arguments by the defaults of its optional parameters; error 450 where the count is wrong.
+// Completes a list of arguments by those that may be left out; error 450 where the count is wrong.
 void complete_arguments(const std::vector<Parameter>& parameters, std::vector<Value>& arguments);
 
 // Members that stand together in several tables, or that only some classes of a family have: then the group of the
