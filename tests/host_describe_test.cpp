@@ -122,7 +122,7 @@ TEST(HostDescribe, Every_module_procedure_has_a_line_of_its_own) {
 TEST(HostDescribe, All_module_procedures_are_one_json_value) {
   const Json all = Json::parse(describe_procedures_json());
   ASSERT_EQ(all.size(), automation::procedures().size());
-  EXPECT_EQ(all.at(1).dump(), R"({"name":"EscapeLike","kind":"procedure","type":"String","args":[)"
+  EXPECT_EQ(all.at(1).dump(), R"({"name":"EscapeLike","kind":"procedure","type":"Variant","args":[)"
                               R"({"name":"Text","type":"String","byref":false,"optional":false}]})");
 }
 
@@ -132,7 +132,8 @@ TEST(HostDescribe, A_name_of_neither_class_nor_record_is_error_429_with_the_reco
     FAIL();
   } catch (const ado::RuntimeError& failure) {
     EXPECT_EQ(failure.number(), 429);
-    EXPECT_NE(failure.description().find("clsNone; there is GoodsRecord, "), std::string::npos) << failure.description();
+    EXPECT_NE(failure.description().find("clsNone; there is GoodsRecord, "), std::string::npos)
+        << failure.description();
   }
 }
 

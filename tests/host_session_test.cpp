@@ -88,7 +88,7 @@ TEST_F(HostSession, An_unset_session_connection_stays_unset_in_a_new_session) {
 TEST_F(HostSession, A_connection_or_a_state_of_another_name_is_refused) {
   EXPECT_EQ(answer(R"({"do":"connection","of":"both","is":"open"})")["error"]["number"], 13);
   EXPECT_EQ(answer(R"({"do":"connection","of":"bill","is":"shut"})")["error"]["number"], 13);
-  EXPECT_EQ(answer(R"({"do":"connection","is":"open"})")["error"]["number"], 13);
+  EXPECT_EQ(answer(R"({"do":"connection","is":"open"})")["error"]["number"], 450);
 }
 
 TEST_F(HostSession, A_rehearsed_failure_is_not_sent_and_stands_in_the_trace_with_its_number) {
@@ -184,7 +184,7 @@ TEST_F(HostSession, The_host_s_own_statement_that_fails_answers_the_engine_s_tex
   const Json error = answer(R"({"do":"sql","text":"select * from nowhere"})").at("error");
   EXPECT_EQ(error.at("number"), -2147217865);
   EXPECT_EQ(error.at("description"), "no such table: nowhere");
-  EXPECT_EQ(answer(R"({"do":"sql"})")["error"]["number"], 13);
+  EXPECT_EQ(answer(R"({"do":"sql"})")["error"]["number"], 450);
 }
 
 }  // namespace
