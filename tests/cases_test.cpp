@@ -1,19 +1,5 @@
 // The documents' behaviour as data: each file below cases/ is a story told in the lines of `brunvik run`, with what has
-// to come out.
-//
-// A case begins with what a bookkeeper does and what must come of it, in lines that start with `#`; more of them may
-// stand further down. `@dialect sqlserver`, `access` or `both` (the default) says in which dialect it is told,
-// `@include goods.setup` sends the lines of a file of cases/setup first. Then
-//
-//     > {"do":"call","on":"b","verb":"Save"}
-//     < {"result":0,
-//     <  "trace":[["bill","select * from StockBill where Id='QTR24030500001'"]]}
-//
-// sends a line and says what the answer must hold: every member that is named, and of members that are objects again
-// what is named of them. Lists are compared whole. A text that ends in "…" is the beginning of the expected one. A line
-// without an answer must not be refused, and a call or procedure whose answer names no notices must show none.
-//
-// The clock stands at 2024-03-05 10:00:00, and answers hold the statements that were sent.
+// to come out. docs/cases.md describes the lines.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -121,6 +107,12 @@ Case read_case(const files::path& path) {
       read.steps.back().expected += content;
     } else if (kind == '@' && content.starts_with("dialect ")) {
       read.dialect = trimmed(content.substr(8));
+      if (read.dialect != "both" && std::none_of(dialects.begin(), dialects.end(), [&](const Dialect& dialect) {
+            return dialect.name == read.dialect;
+          })) {
+        throw std::runtime_error(path.string() + ":" + std::to_string(number) + ": there is no dialect " +
+                                 read.dialect);
+      }
     } else if (kind == '@' && content.starts_with("include ")) {
       const Case setup = read_case(case_folder / "setup" / trimmed(content.substr(8)));
       read.steps.insert(read.steps.end(), setup.steps.begin(), setup.steps.end());
