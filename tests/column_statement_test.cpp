@@ -41,6 +41,16 @@ TEST(Insert, A_column_may_have_another_source_than_its_own_property) {
   EXPECT_EQ(insert.text(sample(), 2), "insert into T(Kind,InOutFlag,Status,TaxRate) values(6,1,2,12.5)");
 }
 
+TEST(Insert, A_column_may_be_worked_out_of_the_object) {
+  const Insert insert(
+      Sample::table(),
+      {worked_out("Kind",
+                  [](const PublicObject& object) -> Value { return dynamic_cast<const Sample&>(object).Status; })},
+      "insert into T(Id,Kind) values(");
+  EXPECT_EQ(insert.text(sample()), "insert into T(Id,Kind) values('QTR1',9)");
+  EXPECT_EQ(insert.members_written().size(), 1U);
+}
+
 TEST(Insert, What_stands_in_brackets_belongs_to_the_audited_form) {
   const Insert insert(Sample::table(), {argument("Status")}, "insert into T(Id,[Amount,TaxRate,]Status) values(");
   EXPECT_EQ(insert.text(sample(), 3), "insert into T(Id,Amount,TaxRate,Status) values('QTR1',12.5,0.5,3)");

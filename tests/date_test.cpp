@@ -12,6 +12,21 @@ namespace {
 
 using test::error_number;
 
+TEST(Day, Is_read_with_either_separator_alone_or_with_a_time) {
+  EXPECT_EQ(timestamp_text(parse_day("2024-03-05")), "2024-03-05 00:00:00");
+  EXPECT_EQ(timestamp_text(parse_day("2024/3/5")), "2024-03-05 00:00:00");
+  EXPECT_EQ(timestamp_text(parse_day("2024-3-05 9:05")), "2024-03-05 09:05:00");
+  EXPECT_EQ(timestamp_text(parse_day("2024/12/31 23:59:59")), "2024-12-31 23:59:59");
+}
+
+TEST(Day, Is_nothing_but_a_whole_date_that_exists) {
+  for (const char* text : {"", " ", "10:00", "45356", "24-03-05", "02024-03-05", "2024-03", "2024-03-05 ",
+                           " 2024-03-05", "2024-03/05", "2024.03.05", "2024-003-05", "2024-02-30", "2024-03-05 24:00",
+                           "2024-03-05 9:5", "2024-03-05  9:05", "2024-03-05T09:05", "2024-03-05 9", "二〇二四"}) {
+    EXPECT_EQ(error_number([&] { parse_day(text); }), 13) << '"' << text << '"';
+  }
+}
+
 TEST(Date, Counts_days_from_the_30th_of_December_1899) {
   EXPECT_EQ(date_of({1899, 12, 30}).days, 0);
   EXPECT_EQ(date_of({1899, 12, 31}).days, 1);

@@ -14,6 +14,7 @@
 #include "tests/support/books.h"
 #include "tests/support/faults/books.h"
 #include "tests/support/faults/document.h"
+#include "tests/support/faults/frame.h"
 #include "tests/support/rehearsed_connection.h"
 
 namespace brunvik::test {
@@ -63,7 +64,9 @@ class FaultRuns : public ::testing::Test {
       const Session loading(books_);
       automation::put(*object, "ADOConn", ado::ObjectReference(books_));
       std::vector<Value> bill{rehearsed_document(verb.class_name).bill()};
-      EXPECT_EQ(automation::call(*object, "LoadById", bill), Value(Long{0}));
+      if (published(*object, "LoadById")) {
+        EXPECT_EQ(automation::call(*object, "LoadById", bill), Value(Long{0}));
+      }
       if (verb.prepare) verb.prepare(*object);
     }
     if (!verb.number.empty()) automation::put(*object, "ID", verb.number);
@@ -72,7 +75,8 @@ class FaultRuns : public ::testing::Test {
     rehearsal->fails_at = circumstances.fails_at;
     Outcome outcome;
     outcome.arguments = verb.arguments;
-    outcome.result = automation::call(*object, verb.verb, outcome.arguments).as_long();
+    const Value result = automation::call(*object, verb.verb, outcome.arguments);
+    outcome.result = result.get_if<std::string>() ? 0 : result.as_long();  // a number of a bill says nothing of errors
     outcome.statements = rehearsal->statements;
     outcome.notices = host.take();
     books_->Execute("rollback");
@@ -88,7 +92,10 @@ class Faults : public FaultRuns, public ::testing::WithParamInterface<Verb> {};
 class FaultsOfAConnection : public FaultRuns {};
 
 Texts notices_of(const Step& step, const std::string& text) {
-  return step.notice.empty() ? Texts{} : Texts{step.notice + text};
+  Texts notices;
+  if (!step.notice.empty()) notices.push_back(step.notice + text);
+  if (!step.further_notice.empty()) notices.push_back(step.further_notice);
+  return notices;
 }
 
 // The steps that a verb takes when this one of them fails.
@@ -245,6 +252,9 @@ TEST_F(FaultsInTheBooks, A_last_number_that_cannot_be_read_is_empty) {
 TEST(RehearsedDocuments, Have_every_class_with_every_verb) {
   std::set<std::string> rehearsed{"InitBrunvikVariable.InitClase_PublicVariable"};  // it sends nothing
   for (const Verb& verb : rehearsed_verbs()) rehearsed.insert(verb.class_name + "." + verb.verb);
+  for (const RehearsedDocument& document : rehearsed_documents()) {
+    for (const std::string& verb : document.always_refused) rehearsed.insert(document.class_name + "." + verb);
+  }
   for (const automation::Class& each : automation::classes()) {
     for (const Member& member : each.create()->members()) {
       const std::string name = std::string(each.name) + "." + std::string(member.name());

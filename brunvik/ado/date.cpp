@@ -1,10 +1,12 @@
 #include "brunvik/ado/date.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <chrono>
 #include <cmath>
 #include <cstdio>
+#include <initializer_list>
 
 #include "brunvik/ado/errors.h"
 #include "brunvik/ado/numbers.h"
@@ -111,6 +113,30 @@ Date parse_date(std::string_view text) {
   } catch (const RuntimeError&) {
     raise(error::type_mismatch);
   }
+}
+
+Date parse_day(std::string_view text) {
+  // The text with every run of digits as its length, and / as -: what is allowed is then a short list.
+  std::string shape;
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    const std::size_t end = std::min(text.find_first_not_of("0123456789", at), text.size());
+    if (end > at) {
+      shape += std::to_string(end - at);
+      at = end - 1;
+    } else {
+      shape += text[at] == '/' && text.find('-') == std::string_view::npos ? '-' : text[at];
+    }
+  }
+  const std::string_view day = std::string_view(shape).substr(0, shape.find(' '));
+  const std::string_view time = std::string_view(shape).substr(day.size());
+  const auto is_one_of = [](std::string_view part, std::initializer_list<std::string_view> forms) {
+    return std::find(forms.begin(), forms.end(), part) != forms.end();
+  };
+  if (!is_one_of(day, {"4-1-1", "4-1-2", "4-2-1", "4-2-2"}) ||
+      !is_one_of(time, {"", " 1:2", " 2:2", " 1:2:2", " 2:2:2"})) {
+    raise(error::type_mismatch);
+  }
+  return parse_date(text);
 }
 
 std::string timestamp_text(Date date) { return day_text(date) + ' ' + time_text(date); }

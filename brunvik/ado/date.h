@@ -31,6 +31,10 @@ Date date_of(const DateParts& parts);
 // Reads "yyyy-MM-dd" or "yyyy/M/d", "HH:mm:ss" (also without seconds) behind it or alone; error 13 for other text.
 Date parse_date(std::string_view text);
 
+// Reads a day alone or with a time: "yyyy-M-d" or "yyyy/M/d", then a blank and "H:mm" or "H:mm:ss". Error 13 for any
+// other text: blanks around it, a time or a number alone, a year of other than four digits, a day that doesn't exist.
+Date parse_day(std::string_view text);
+
 // "2024-03-05 10:00:00", "2024-03-05", "2024-03", "10:00:00", and "240305" as it stands in a bill number.
 std::string timestamp_text(Date date);
 std::string day_text(Date date);

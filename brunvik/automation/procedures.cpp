@@ -4,6 +4,7 @@
 #include "brunvik/foundation/FenwerkOPT_Function.h"
 #include "brunvik/foundation/GetValue_Function.h"
 #include "brunvik/foundation/SqlOPT_Function.h"
+#include "brunvik/settlement/ledger.h"
 #include "brunvik/stock/moving_average_cost.h"
 
 namespace brunvik::automation {
@@ -41,6 +42,10 @@ std::span<const Procedure> procedures() {
       procedure<&UpdateBillItemCost>("UpdateBillItemCost", in("BillId"), in("RowNum"), in("Cost"), in("ShareCost")),
       procedure<&CalcBillCost>("CalcBillCost", in("Rows"), in_out("Type")),
       procedure<&UpdateBillCost>("UpdateBillCost", in("BillId"), in("Type"), in("BillCost")),
+      procedure<&CreateZHJYXX_LX>("CreateZHJYXX_LX", in("BillId"), in("Amount"), in("AccountId"), in("Responsible"),
+                                  in("Direction"), in("TypeCode"), in("Item"), in_out("Voucher"), in_out("DateText"),
+                                  in_out("Payer")),
+      procedure<&DeleteZHJYXX>("DeleteZHJYXX", in_out("BillId")),
   };
   return procedures;
 }

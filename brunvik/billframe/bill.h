@@ -91,6 +91,32 @@ class Bill : public PublicObject {
   // On the bill's own connection; error 91 where it is unset.
   ado::Recordset execute(std::string_view statement) const { return ado::execute(ADOConn, statement, ado::Road::bill); }
 
+  // A voucher that was made on the spot with this bill, as it is stored.
+  template <class Voucher>
+  Voucher loaded_voucher(const std::string& number) const {
+    Voucher voucher;
+    voucher.ADOConn = ADOConn;
+    voucher.LoadById(number);
+    return voucher;
+  }
+
+  // Audits the voucher of this number, where there is one, as the bill's auditor, or takes its audit back. What comes
+  // of it is not looked at: a voucher that fails tells the user itself, and the bill's audit goes on.
+  template <class Voucher>
+  void audit_voucher(const std::string& number) const {
+    if (number.empty()) return;
+    auto voucher = loaded_voucher<Voucher>(number);
+    voucher.Status = status::audited;
+    voucher.Auditor = Auditor;
+    voucher.Audittime = Audittime;
+    voucher.Audite(Auditor, Audittime);
+  }
+
+  template <class Voucher>
+  void undo_voucher(const std::string& number) const {
+    if (!number.empty()) loaded_voucher<Voucher>(number).UndoAudite();
+  }
+
   // Fills the properties from the set's record, where there is one.
   void read_properties(const ado::Recordset& set);
 

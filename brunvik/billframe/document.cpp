@@ -34,13 +34,12 @@ Long Document::status_to_save(Saving saving) const { return saving == Saving::dr
 
 void Document::save_header(Saving saving) {
   if (number().empty()) throw Stop{result_without_id};
+  const bool stored = !execute(sql(form().statements.select_header, number())).at_end();
   const Long status = status_to_save(saving);
-  if (execute(sql(form().statements.select_header, number())).at_end()) {
-    execute(form().insert.text(*this, status));
-  } else {
-    update_header(status);
-  }
+  stored ? update_header(status) : insert_header(status);
 }
+
+void Document::insert_header(Long status) { execute(form().insert.text(*this, status)); }
 
 void Document::update_header(Long status) {
   remove_rows();

@@ -31,10 +31,12 @@ class Document : public Bill {
   virtual const DocumentForm& form() const = 0;
   virtual RowCollection& rows() = 0;
 
-  // The status that the header is saved with.
+  // The status that the header is saved with; asked for behind the look-up by number.
   virtual Long status_to_save(Saving saving) const;
 
-  // What stands in for a header that is there: its rows go, then it is updated.
+  virtual void insert_header(Long status);
+
+  // What becomes of a header that is there: its rows go, then it is updated.
   virtual void update_header(Long status);
 
   virtual void save_row(const PublicObject& row);

@@ -3,6 +3,7 @@
 #include "brunvik/ado/clock.h"
 #include "brunvik/ado/connection.h"
 #include "brunvik/ado/errors.h"
+#include "brunvik/ado/names.h"
 #include "brunvik/ado/numbers.h"
 #include "brunvik/foundation/Brunvik_Variable.h"
 #include "brunvik/foundation/ConnOPT_Function.h"
@@ -72,6 +73,14 @@ std::string GetKeyValue(std::string_view Key) {
       },
       "错误信息");
   return value;
+}
+
+bool GetKeyFlag(std::string_view Key) {
+  const std::string value = GetKeyValue(Key);
+  const std::string_view text = trimmed(value);
+  if (ado::same_name(text, "True")) return true;
+  if (ado::same_name(text, "False")) return false;
+  return ado::parse_double(text) != 0;
 }
 
 std::string GetContactsCompanyField(std::string_view Id, std::string_view Column) {

@@ -25,6 +25,11 @@ Long Get_UniqV(std::string_view Table, std::string_view Field);
 // has the title 错误信息.
 std::string GetKeyValue(std::string_view Key);
 
+// The same for a switch whose text is taken as a truth value: True or False in any case, or a number, of which any but
+// 0 is true; blanks around them count for nothing. Error 13 for any other text, also where the key is missing or can't
+// be read, in which case GetKeyValue has told so.
+bool GetKeyFlag(std::string_view Key);
+
 // One column of a company as text; empty for an empty id (nothing is read), an unknown id or a null.
 std::string GetContactsCompanyField(std::string_view Id, std::string_view Column);
 

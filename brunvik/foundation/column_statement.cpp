@@ -5,6 +5,7 @@
 #include "brunvik/ado/names.h"
 #include "brunvik/ado/numbers.h"
 #include "brunvik/foundation/Declare_EnumType.h"
+#include "brunvik/foundation/sql_text.h"
 #include "brunvik/foundation/text.h"
 
 namespace brunvik {
@@ -46,14 +47,20 @@ ColumnStatement::Form ColumnStatement::resolved(Parts parts, const Members& memb
   Form form;
   form.tail = std::move(parts.tail);
   for (Value& value : parts.values) {
-    Place place{
-        std::move(value.text_before), std::move(value.column), ColumnSource::Kind::property, 0, nullptr, nullptr};
+    Place place{std::move(value.text_before),
+                std::move(value.column),
+                ColumnSource::Kind::property,
+                0,
+                nullptr,
+                nullptr,
+                nullptr};
     bool listed = false;
     for (const ColumnSource& source : sources) {
       if (!ado::same_name(source.column, place.column)) continue;
       listed = true;
       place.kind = source.kind;
       place.constant = source.value;
+      place.work_out = source.work_out;
       if (source.kind == ColumnSource::Kind::property) {
         place.property = &members.named(source.property);
         place.kept_in = &members.written_to(place.column);
@@ -81,6 +88,11 @@ std::string ColumnStatement::text(const PublicObject& object, Long status) const
       case ColumnSource::Kind::argument:
         ado::append_number(statement, std::int64_t{status});
         break;
+      case ColumnSource::Kind::worked_out: {
+        const ado::Value value = place.work_out(object);
+        SqlValue(value).append_to(statement);
+        break;
+      }
     }
   }
   return statement += form.tail;

@@ -19,24 +19,31 @@ namespace brunvik {
 
 // Where a column takes its value from, where that isn't the property that the member table names for it.
 struct ColumnSource {
-  enum class Kind { constant, argument, property };
+  enum class Kind { constant, argument, property, worked_out };
+  using WorkOut = ado::Value (*)(const PublicObject&);
 
   std::string_view column;
   Kind kind;
   Long value = 0;
-  std::string_view property;
+  std::string_view property = {};
+  WorkOut work_out = nullptr;
 };
 
 constexpr ColumnSource constant(std::string_view column, Long value) {
-  return {column, ColumnSource::Kind::constant, value, {}};
+  return {column, ColumnSource::Kind::constant, value};
 }
 
 // The status that the caller gives.
-constexpr ColumnSource argument(std::string_view column) { return {column, ColumnSource::Kind::argument, 0, {}}; }
+constexpr ColumnSource argument(std::string_view column) { return {column, ColumnSource::Kind::argument}; }
 
 // Another property than the column's own.
 constexpr ColumnSource from(std::string_view column, std::string_view property) {
   return {column, ColumnSource::Kind::property, 0, property};
+}
+
+// What the document makes of the object whenever it is written.
+constexpr ColumnSource worked_out(std::string_view column, ColumnSource::WorkOut work_out) {
+  return {column, ColumnSource::Kind::worked_out, 0, {}, work_out};
 }
 
 class ColumnStatement {
@@ -44,7 +51,7 @@ class ColumnStatement {
   // The text for an object. `status` picks the form and is the value of a column with an argument.
   std::string text(const PublicObject& object, Long status = 0) const;
 
-  // The properties that keep the columns written, but for those that take a constant or an argument: what an object
+  // The properties that keep the columns written, but for those with a source that is no property: what an object
   // reads back of what it writes. In the form for any other status than 3.
   std::vector<const Member*> members_written() const;
 
@@ -68,6 +75,7 @@ class ColumnStatement {
     std::string column;
     ColumnSource::Kind kind;
     Long constant;
+    ColumnSource::WorkOut work_out;
     // Where the value comes from, and what keeps the column; the same but for a column with a source of its own.
     const Member* property;
     const Member* kept_in;

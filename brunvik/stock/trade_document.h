@@ -25,32 +25,6 @@ class TradeDocument : public PostingDocument {
 
  protected:
   RowCollection& rows() override { return colBillItems; }
-
-  // Loads the voucher of this number, where there is one, and audits it as the bill's auditor, or takes its audit
-  // back. What comes of it is not looked at: a voucher that fails tells the user itself, and the bill's audit goes on.
-  template <class Voucher>
-  void audit_voucher(const std::string& number) const {
-    if (number.empty()) return;
-    auto voucher = loaded<Voucher>(number);
-    voucher.Status = status::audited;
-    voucher.Auditor = Auditor;
-    voucher.Audittime = Audittime;
-    voucher.Audite(Auditor, Audittime);
-  }
-
-  template <class Voucher>
-  void undo_voucher(const std::string& number) const {
-    if (!number.empty()) loaded<Voucher>(number).UndoAudite();
-  }
-
- private:
-  template <class Voucher>
-  Voucher loaded(const std::string& number) const {
-    Voucher voucher;
-    voucher.ADOConn = ADOConn;
-    voucher.LoadById(number);
-    return voucher;
-  }
 };
 
 }  // namespace brunvik

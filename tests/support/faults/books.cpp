@@ -20,8 +20,6 @@ std::vector<std::string> fault_books() {
       "insert into StockBill(Id,Type,InOutFlag,Status) values('ALT24020100001',5,2,3)",
       "insert into StockBillItems(BillId,RowNum,GId,unit,qty,ActualQty,Cost) "
       "values('ALT24020100001',1,'G1','箱',1,1,0)",
-      // What vouchers settle beside a purchase.
-      "insert into OthersIEBill(Id,Type,Status,Closeamount,Amount) values('QTS24030500001',17,2,40,40)",
   };
   for (const RehearsedDocument& document : rehearsed_documents()) {
     statements.insert(statements.end(), document.books.begin(), document.books.end());

@@ -8,15 +8,14 @@
 
 namespace brunvik::test {
 
-namespace {
-
-// The member of this name, or nullptr.
-const Member* published(const PublicObject& object, const std::string& verb) {
+const Member* published(const PublicObject& object, const std::string& name) {
   const Members& members = object.members();
   const auto found =
-      std::find_if(members.begin(), members.end(), [&](const Member& member) { return member.name() == verb; });
+      std::find_if(members.begin(), members.end(), [&](const Member& member) { return member.name() == name; });
   return found == members.end() ? nullptr : &*found;
 }
+
+namespace {
 
 // Three bills; the second has two rows: boxes of screws, which are kept by the piece, and packs of nuts, whose balance
 // is still to be made.

@@ -5,9 +5,13 @@
 #include <string>
 #include <vector>
 
+#include "brunvik/foundation/members.h"
 #include "tests/support/faults/document.h"
 
 namespace brunvik::test {
+
+// The member of this name, or nullptr.
+const Member* published(const PublicObject& object, const std::string& name);
 
 // The statements that the frame's verbs are made of.
 struct Frame {

@@ -17,6 +17,9 @@ struct Step {
   // The notice of its failure as "title|text" without the error's text; empty where none is shown.
   std::string notice = {};
 
+  // A notice behind it whose text is its own, whole.
+  std::string further_notice = {};
+
   // Whether the verb ends there, with this result; else it goes on without the steps of these names.
   bool ends = true;
   Long result = rehearsed_number;

@@ -1,0 +1,177 @@
+#include "brunvik/settlement/other_money.h"
+
+#include <utility>
+
+#include "brunvik/foundation/Declare_Const.h"
+#include "brunvik/foundation/GetValue_Function.h"
+#include "brunvik/foundation/error_trap.h"
+#include "brunvik/foundation/late_binding.h"
+#include "brunvik/settlement/pay_bill.h"
+#include "brunvik/settlement/receipt_bill.h"
+
+namespace brunvik {
+
+const Members& OtherMoneyRow::table() {
+  using C = OtherMoneyRow;
+  static const Members table{
+      property<&C::Billid>("Billid", "Billid"),    property<&C::Rownum>("Rownum", "Rownum"),
+      property<&C::Itemid>("Itemid", "Itemid"),    property<&C::Itemname>("Itemname", "Itemname"),
+      property<&C::Unit>("Unit", "Unit"),          property<&C::Qty>("Qty", "Qty"),
+      property<&C::Price>("Price", "Price"),       property<&C::Amount>("Amount", "Amount"),
+      property<&C::Remarks>("Remarks", "Remarks"),
+  };
+  return table;
+}
+
+const Members& OtherMoneyDocument::table() {
+  using C = OtherMoneyDocument;
+  static const Members table{
+      connection<&C::ADOConn>("ADOConn"),
+      collection<&C::colBillItems>("colBillItems"),
+      property<&C::ID>("ID", "Id"),
+      property<&C::Manualid>("Manualid", "ManualId"),
+      property<&C::Supplier>("Supplier", "CCompany"),
+      property<&C::Manager>("Manager", "Manager"),
+      property<&C::Creator>("Creator", "Creator"),
+      property<&C::Createtime>("Createtime", "CreateTime"),
+      property<&C::Status>("Status", "Status").required(),
+      property<&C::Auditor>("Auditor", "Auditor"),
+      property<&C::Audittime>("Audittime", "Audittime"),
+      property<&C::Paidamount>("Paidamount", "Paidamount"),
+      property<&C::Closeamount>("Closeamount", "Closeamount"),
+      property<&C::Amount>("Amount", "Amount"),
+      property<&C::Invoicename>("Invoicename", "Invoicename"),
+      property<&C::Invoicetype>("Invoicetype", "Invoicetype"),
+      property<&C::Taxrate>("Taxrate", "Taxrate"),
+      property<&C::Discounttype>("Discounttype", "Discounttype"),
+      property<&C::Discountcard>("Discountcard", "Discountcard"),
+      property<&C::Discountrate>("Discountrate", "Discountrate"),
+      property<&C::Deliverymethod>("Deliverymethod", "Deliverymethod"),
+      property<&C::Closedtag>("Closedtag", "Closedtag"),
+      property<&C::Nowpaybillid>("Nowpaybillid", "Nowpaybillid"),
+      property<&C::Referflag>("Referflag", "Referflag"),
+      property<&C::Referbillid>("Referbillid", "Referbillid"),
+      property<&C::Lastupdatetime>("Lastupdatetime", "Lastupdatetime"),
+      property<&C::Summary>("Summary", "Summary"),
+      property<&C::Remarks>("Remarks", "Remarks"),
+      verb<&C::Save>("Save"),
+      verb<&C::SaveAsDraft>("SaveAsDraft"),
+      verb<&C::GetNewId>("GetNewId", out("BID")),
+      verb<&C::LoadById>("LoadById", in_out("BID")),
+      verb<&C::Delete>("Delete"),
+      verb<&C::UpdateAudited>("UpdateAudited"),
+      verb<&C::CancelAudited>("CancelAudited"),
+      verb<&C::LoadLast>("LoadLast"),
+      verb<&C::LoadNext>("LoadNext"),
+      verb<&C::LoadPreviou>("LoadPreviou"),
+      verb<&C::GetLastId>("GetLastId", out("LastId")),
+      verb<&C::GetNearId>("GetNearId", in("CurBillID"), out("NearBillID"), optional(in("NextPreviousId"), false)),
+  };
+  return table;
+}
+
+DocumentForm OtherMoneyDocument::other_money_form(const Kind& kind) {
+  const std::vector<ColumnSource> sources{constant("Type", kind.code.value()), argument("Status")};
+  Insert insert_row(
+      OtherMoneyRow::table(), {},
+      "insert into OthersIEBillItems(Billid,Rownum,Itemid,Itemname,Unit,Qty,Price,Amount,Remarks) values(");
+  RowMembers read = members_read_back(insert_row);
+  return {{"select * from OthersIEBill where Id={}", "delete from OthersIEBill where Id={}",
+           "select * from OthersIEBillItems where BillId={} order by rownum",
+           "delete from OthersIEBillItems where BillId={}"},
+          Insert(table(), sources,
+                 "insert into OthersIEBill(Id,ManualId,CCompany,Manager,Creator,CreateTime,Type,Status,"
+                 "[Auditor,Audittime, ]Paidamount,Closeamount,Amount,Invoicename,Invoicetype,Taxrate,Discounttype,"
+                 "Discountcard,Discountrate, Deliverymethod,Closedtag,Nowpaybillid,Referflag,Referbillid,"
+                 "Lastupdatetime,Summary,Remarks) values("),
+          Update(table(), sources,
+                 "update OthersIEBill set ManualId = ,CCompany = ,Manager = ,Type = ,Status = ,Paidamount = ,"
+                 "Closeamount = ,Amount = ,Invoicename = ,Invoicetype = ,Taxrate = ,Discounttype = ,Discountcard = ,"
+                 "Discountrate = ,Deliverymethod = ,Closedtag = ,Nowpaybillid = ,Referflag = ,Referbillid = ,"
+                 "Lastupdatetime = ,[Auditor = ,Audittime = ,]Summary = ,Remarks =  where Id="),
+          std::move(insert_row),
+          std::move(read)};
+}
+
+const DocumentForm& ClsOthersIncomeBill::form() const {
+  static const DocumentForm form = other_money_form(kind());
+  return form;
+}
+
+const DocumentForm& clsOthersIncomeBjkcBill::form() const {
+  static const DocumentForm form = other_money_form(kind());
+  return form;
+}
+
+const DocumentForm& clsOthersExpenseBill::form() const {
+  static const DocumentForm form = other_money_form(kind());
+  return form;
+}
+
+const DocumentForm& clsOthersExpenseBjkcBill::form() const {
+  static const DocumentForm form = other_money_form(kind());
+  return form;
+}
+
+Long OtherMoneyDocument::status_to_save(Saving saving) const {
+  if (saving == Saving::draft) return status::draft;
+  return GetKeyFlag(config::audit_of_accounts) ? status::saved : status::audited;
+}
+
+void OtherMoneyDocument::save_header(Saving saving) {
+  worker(saving == Saving::draft ? " SaveOthersIEBillForSketch(): " : " SaveOthersIEBill(): ",
+         [&] { Document::save_header(saving); });
+}
+
+void OtherMoneyDocument::insert_header(Long status) {
+  worker(" AddOthersIEBill(): ", [&] { Document::insert_header(status); });
+}
+
+void OtherMoneyDocument::update_header(Long status) {
+  worker(" UpdateOthersIEBill(): ", [&] { Document::update_header(status); });
+}
+
+void OtherMoneyDocument::save_row(const PublicObject& row) {
+  worker(" AddOthersInDbBillItems(): ", [&] { Document::save_row(row); });
+}
+
+void OtherMoneyDocument::read_rows() {
+  worker(" GetOthersIEBillItems(): ", [&] { Document::read_rows(); });
+}
+
+void OtherMoneyDocument::remove_rows() {
+  worker(" DeleteOthersIEBillItems(): ", [&] { Document::remove_rows(); });
+}
+
+void OtherMoneyDocument::find_last(std::string& last, std::string_view series) {
+  worker(" GetLastId(): ", [&] { Document::find_last(last, series); });
+}
+
+void OtherMoneyDocument::find_near(const std::string& current, std::string& near, bool next, std::string_view series) {
+  worker(" GetNearId(): ", [&] { Document::find_near(current, near, next, series); });
+}
+
+Long OtherMoneyDocument::UpdateAudited() noexcept { return change_status(true); }
+Long OtherMoneyDocument::CancelAudited() noexcept { return change_status(false); }
+
+Long OtherMoneyDocument::change_status(bool audited) noexcept {
+  const auto change = [&] {
+    if (ID.empty()) throw Stop{result_without_id};
+    const auto stored = execute(sql(form().statements.select_header, ID));
+    if (stored.at_end() || (stored.value("Status").as_long() == status::audited) == audited) return;
+    const Long to = audited ? status::audited : status::saved;
+    execute(
+        sql("update OthersIEBill set Status = {},Auditor = {},AuditTime = {} where Id={}", to, Auditor, Audittime, ID));
+    const std::string voucher = stored.value("Nowpaybillid").joined_text();
+    audited ? audit_money(voucher) : undo_money(voucher);
+  };
+  const std::string_view tag = audited ? audit_tag() : undo_tag();
+  return tag.empty() ? trap(change) : trap(tag, change);
+}
+
+void OtherReceivable::audit_money(const std::string& voucher) const { audit_voucher<clsReceiptBill>(voucher); }
+void OtherReceivable::undo_money(const std::string& voucher) const { undo_voucher<clsReceiptBill>(voucher); }
+void OtherPayable::audit_money(const std::string& voucher) const { audit_voucher<clsPayBill>(voucher); }
+void OtherPayable::undo_money(const std::string& voucher) const { undo_voucher<clsPayBill>(voucher); }
+
+}  // namespace brunvik
