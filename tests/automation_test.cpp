@@ -128,7 +128,10 @@ TEST_F(AutomationTest, Every_module_procedure_has_its_name_its_result_and_its_ar
             "Money GetAverageCost(GoodsId:String Class:String Model1:String Model2:String )\n"
             "Nothing UpdateBillItemCost(BillId:String RowNum:Integer Cost:Money ShareCost:Money )\n"
             "Money CalcBillCost(Rows:Collection &Type:Integer )\n"
-            "Nothing UpdateBillCost(BillId:String Type:Long BillCost:Money )\n");
+            "Nothing UpdateBillCost(BillId:String Type:Long BillCost:Money )\n"
+            "Long CreateZHJYXX_LX(BillId:String Amount:Money AccountId:String Responsible:String Direction:Integer "
+            "TypeCode:Long Item:String &Voucher:Boolean &DateText:String &Payer:String )\n"
+            "Long DeleteZHJYXX(&BillId:String )\n");
 }
 
 TEST_F(AutomationTest, Every_module_procedure_can_be_called_by_name) {

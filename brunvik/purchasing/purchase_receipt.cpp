@@ -143,7 +143,8 @@ void PurchaseReceipt::read_receipt_rows(Collection<StockRow>& rows, const ado::C
                                         const std::string& number) {
   const clsPurchaseInBill receipt;
   const DocumentForm& form = static_cast<const PurchaseReceipt&>(receipt).form();
-  brunvik::read_rows<StockRow>(rows, ado::execute(connection, sql(form.statements.select_rows, number)),
+  brunvik::read_rows<StockRow>(rows,
+                               ado::execute(connection, sql(form.statements.select_rows, number), ado::Road::bill),
                                form.row_members_read, number_unnumbered_row);
 }
 

@@ -22,7 +22,7 @@ class LedgerRecord : public PublicObject {
   virtual const Kind& kind() const = 0;
 
  protected:
-  void execute(std::string_view statement) const { ado::execute(ADOConn, statement); }
+  void execute(std::string_view statement) const { ado::execute(ADOConn, statement, ado::Road::bill); }
 };
 
 // A cash or bank account. Its errors are also shown in a notice.

@@ -14,7 +14,8 @@ void update_zero_cost_issues(const ado::ConnectionReference& connection, std::st
           "Goods.ID) left JOIN StockBill ON StockBillItems.BillId = StockBill.Id where StockBill.Status=3 and "
           "StockBillItems.cost=0  and stockBillItems.ActualQty<>0 and (StockBill.type=5 or StockBill.type=4) and "
           "StockBillItems.Gid={}",
-          goods));
+          goods),
+      ado::Road::bill);
   for (; !set.at_end(); set.MoveNext()) {
     const std::string goods_id = set.value("GId").joined_text();
     const Money factor = GoodsUnitConverter(goods_id, set.value("Unit").joined_text());

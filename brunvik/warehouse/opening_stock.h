@@ -75,7 +75,7 @@ class clsInitInBill final : public PublicObject {
   Long load(const Half& half, const std::string& number) noexcept;
   void read_header(const Half& half);
 
-  ado::Recordset execute(std::string_view statement) const { return ado::execute(ADOConn, statement); }
+  ado::Recordset execute(std::string_view statement) const { return ado::execute(ADOConn, statement, ado::Road::bill); }
 
   // What the statements write beside the properties: the times as the books keep them, and whether the bill is settled.
   std::string created() const;

@@ -1,7 +1,8 @@
 // The public members of every class and of every row record, as hosts know them, written out by hand. Each stands in
 // its family's file beside this one and is collected when the program starts.
 //
-// A line names a kind and a type, then the members in their order. Arguments: & by reference, ? optional, = default.
+// A line names a kind and a type, then the members in their order. Arguments: & by reference, ? optional, = default. A
+// property that starts with something says what: Status=3.
 #pragma once
 
 #include <map>

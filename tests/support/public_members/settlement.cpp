@@ -56,9 +56,9 @@ const std::string plan = R"(
 property Connection: ADOConn
 collection Collection: colBillItems
 property String: ID Ctcompany CtcompanyName Manager Creator Createtime
-property Long: Status
+property Long: Status=3
 property Money: Amount Paidamount
-property String: PayBillId
+property String: PayBillId=0
 property Boolean: Closedtag
 property Long: Billcount
 property String: StartDate EndDate
