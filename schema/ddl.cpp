@@ -89,13 +89,29 @@ std::string add_column(Engine engine, const Table& table, const Column& column) 
   return "ALTER TABLE " + name + " ADD COLUMN " + column_definition(engine, table, column);
 }
 
-std::string index_name(const Table& table, std::string_view columns) {
-  return std::string(table.name) + "_" + replaced(std::string(columns), ", ", "_");
+struct IndexParts {
+  std::string columns;
+  std::string condition;
+};
+
+IndexParts parts_of(std::string_view index) {
+  constexpr std::string_view where = " where ";
+  const auto condition = index.find(where);
+  if (condition == std::string_view::npos) return {std::string(index), {}};
+  return {std::string(index.substr(0, condition)), std::string(index.substr(condition + where.size()))};
 }
 
-std::string create_index(const Table& table, std::string_view columns) {
-  return "CREATE INDEX " + index_name(table, columns) + " ON " + std::string(table.name) + " (" + std::string(columns) +
-         ")";
+// By the columns alone: an older index over all rows answers whatever one over some of them does.
+std::string index_name(const Table& table, std::string_view index) {
+  return std::string(table.name) + "_" + replaced(parts_of(index).columns, ", ", "_");
+}
+
+std::string create_index(const Table& table, std::string_view index) {
+  const auto [columns, condition] = parts_of(index);
+  std::string text =
+      "CREATE INDEX " + index_name(table, index) + " ON " + std::string(table.name) + " (" + columns + ")";
+  if (!condition.empty()) text += " WHERE " + condition;
+  return text;
 }
 
 bool same_name(std::string_view left, std::string_view right) {
@@ -123,8 +139,8 @@ std::vector<std::string> lacking_statements(Engine engine, std::span<const LaidT
     for (const Column& column : table.columns) {
       if (is_there && !has(there.columns, column.name)) list.push_back(add_column(engine, table, column));
     }
-    for (const std::string_view columns : table.indexes) {
-      if (!has(there.indexes, index_name(table, columns))) list.push_back(create_index(table, columns));
+    for (const std::string_view index : table.indexes) {
+      if (!has(there.indexes, index_name(table, index))) list.push_back(create_index(table, index));
     }
   }
   return list;

@@ -29,8 +29,9 @@ struct Column {
 struct Table {
   std::string_view name;
   std::span<const Column> columns;
-  std::string_view key = {};                       // the key column; empty: none
-  std::span<const std::string_view> indexes = {};  // the columns of one index each, separated by ", "
+  std::string_view key = {};  // the key column; empty: none
+  // The columns of one index each, separated by ", "; behind " where " the condition of the rows that stand in it.
+  std::span<const std::string_view> indexes = {};
 };
 
 // All tables, master data first. The description lives as long as the process.

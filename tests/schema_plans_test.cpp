@@ -4,10 +4,12 @@
 #include <string>
 #include <vector>
 
+#include "drivers/sqlite/connection.h"
 #include "tests/schema_database.h"
 
 namespace {
 
+using namespace brunvik;
 using brunvik::schema::Database;
 using brunvik::schema::laid;
 using brunvik::schema::Row;
@@ -146,6 +148,25 @@ TEST(SchemaPlans, The_rows_of_a_bill_come_in_their_order_without_being_sorted) {
   Database database = laid();
   const std::string plan = database.plan("select * from StockBillItems where BillId='a' order by rownum");
   EXPECT_EQ(plan.find("TEMP B-TREE"), std::string::npos) << plan;
+}
+
+TEST(SchemaPlans, The_driver_finds_the_rows_without_a_cost_in_the_index_that_holds_no_other) {
+  const auto books = sqlite::open(":memory:");
+  for (const std::string& statement : schema::statements(schema::Engine::sqlite)) books->Execute(statement);
+  ado::Recordset set = books->Execute(
+      "explain query plan select StockBillItems.*,Goods.AverageCost from (StockBillItems left join Goods ON "
+      "StockBillItems.GId = Goods.ID) left JOIN StockBill ON StockBillItems.BillId = StockBill.Id where "
+      "StockBill.Status=3 and StockBillItems.cost=0  and stockBillItems.ActualQty<>0 and (StockBill.type=5 or "
+      "StockBill.type=4) and StockBillItems.Gid='G1'");
+  EXPECT_EQ(set.value("detail").as_text(),
+            "SEARCH StockBillItems USING INDEX StockBillItems_GId_Cost (GId=? AND Cost=?)");
+}
+
+TEST(SchemaPlans, A_row_stands_in_the_index_of_the_zero_costs_until_it_has_a_cost) {
+  Database database = laid();
+  const std::string definition =
+      database.run("select sql from sqlite_master where name='StockBillItems_GId_Cost'").front().front();
+  EXPECT_TRUE(definition.ends_with("(GId, Cost) WHERE Cost=0")) << definition;
 }
 
 }  // namespace

@@ -13,16 +13,24 @@ namespace brunvik::sqlite {
 
 namespace {
 
-bool works_on_rows(std::string_view statement) {
+std::string_view first_word(std::string_view statement) noexcept {
   const auto first = statement.find_first_not_of(" \t\r\n(");
-  if (first == std::string_view::npos) return false;
+  if (first == std::string_view::npos) return {};
   std::size_t end = first;
   while (end < statement.size() && is_word(statement[end])) ++end;
-  const std::string_view word = statement.substr(first, end - first);
+  return statement.substr(first, end - first);
+}
+
+bool works_on_rows(std::string_view word) {
   for (const std::string_view verb : {"select", "insert", "update", "delete", "with", "replace", "values", "explain"}) {
     if (ado::same_name(word, verb)) return true;
   }
   return false;
+}
+
+// EXPLAIN tells of the statement as it would be carried out.
+bool selects_rows(std::string_view word) noexcept {
+  return ado::same_name(word, "select") || ado::same_name(word, "explain");
 }
 
 // The four bytes at a place as lower-case letters, to be compared as one number.
@@ -59,7 +67,28 @@ Keeps kept_by(const char* word, std::ptrdiff_t length) noexcept {
   }
 }
 
-// The place behind the number that begins at a place; null where it runs into a word.
+bool is_date(std::string_view content) {
+  try {
+    ado::parse_date(content);
+    return true;
+  } catch (const ado::RuntimeError&) {
+    return false;
+  }
+}
+
+}  // namespace
+
+const char* end_of_text(const char* place, const char* end, bool& has_apostrophes) noexcept {
+  for (;;) {
+    const void* const found = std::memchr(place, '\'', static_cast<std::size_t>(end - place));
+    if (!found) return nullptr;
+    place = static_cast<const char*>(found) + 1;
+    if (place == end || *place != '\'') return place;
+    has_apostrophes = true;
+    ++place;
+  }
+}
+
 const char* end_of_number(const char* place, const char* end) noexcept {
   while (place != end && is_digit(*place)) ++place;
   if (place != end && *place == '.') {
@@ -76,21 +105,18 @@ const char* end_of_number(const char* place, const char* end) noexcept {
   return place != end && is_word(*place) ? nullptr : place;
 }
 
-bool is_date(std::string_view content) {
-  try {
-    ado::parse_date(content);
-    return true;
-  } catch (const ado::RuntimeError&) {
-    return false;
-  }
-}
+bool is_selection(std::string_view statement) noexcept { return selects_rows(first_word(statement)); }
 
-}  // namespace
+bool is_kept_zero(std::string_view statement, const char* first, const char* behind) noexcept {
+  return behind - first == 1 && *first == '0' && first != statement.data() && first[-1] == '=';
+}
 
 bool Cutter::cut(std::string_view statement) {
   literals_.clear();
   length_ = 0;
-  if (!works_on_rows(statement)) return false;
+  const std::string_view verb = first_word(statement);
+  if (!works_on_rows(verb)) return false;
+  const bool selects = selects_rows(verb);
   // A mark is never longer than its literal.
   if (shape_.size() < statement.size()) shape_.resize(statement.size());
 
@@ -166,17 +192,16 @@ bool Cutter::cut(std::string_view statement) {
       case Character::digit:
         place = end_of_number(place, end);
         if (!place) refuse("A number runs into a word: " + std::string(first, end), statement);
-        found(LiteralKind::number, first, {first, place}, false);
+        if (selects && is_kept_zero(statement, first, place)) {
+          keep_next = false;
+        } else {
+          found(LiteralKind::number, first, {first, place}, false);
+        }
         break;
       case Character::apostrophe: {
-        ++place;
         bool has_apostrophes = false;
-        for (;;) {
-          place = behind('\'', "A text");
-          if (place == end || *place != '\'') break;
-          has_apostrophes = true;
-          ++place;
-        }
+        place = end_of_text(place + 1, end, has_apostrophes);
+        if (!place) refuse("A text has no end.", statement);
         found(LiteralKind::text, first, {first + 1, place - 1}, has_apostrophes);
         break;
       }

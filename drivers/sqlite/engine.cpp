@@ -84,12 +84,16 @@ ado::Recordset Engine::execute(std::string_view text) {
     unkept_.reset();
     cutter_.let_go();
   });
-  if (!cutter_.cut(text)) return execute_as_it_stands(text);
   constexpr int tries = 10;
   int code = SQLITE_SCHEMA;
   for (int time = 0; time < tries && code == SQLITE_SCHEMA; ++time) {
     ado::Recordset result;
-    code = shape_of(text).run(cutter_.literals(), text, result);
+    if (Shape* const known = shapes_.known(text, literals_)) {
+      code = known->run(literals_, text, result);
+    } else {
+      if (!cutter_.cut(text)) return execute_as_it_stands(text);
+      code = shape_of(text).run(cutter_.literals(), text, result);
+    }
     if (code == SQLITE_DONE) return result;
     if (code == SQLITE_SCHEMA) {
       // What was known of the tables went into the rewriting of every shape.

@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "brunvik/ado/recordset.h"
 #include "drivers/sqlite/catalogue.h"
@@ -51,6 +52,7 @@ class Engine {
   std::int64_t catalogue_version_ = 0;
   Cutter cutter_;
   ShapeCache shapes_;
+  std::vector<Literal> literals_;  // of a statement that was known
   std::optional<Shape> unkept_;
   Statement schema_version_;
 };

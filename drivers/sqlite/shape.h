@@ -34,6 +34,9 @@ class Shape {
  public:
   Shape(Statement statement, Rewritten rewritten);
 
+  // How many values a statement of the shape has.
+  std::size_t values() const noexcept { return targets_.size(); }
+
   // Steps through the statement. The result is SQLITE_DONE, or the code of the failure, whose text the database has;
   // of SQLITE_SCHEMA when the tables have changed since it was prepared, and nothing has been done. `text` is the
   // statement for the errors that are found in the values themselves.

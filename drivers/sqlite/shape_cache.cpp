@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 #include "drivers/sqlite/memory.h"
 
@@ -33,6 +34,21 @@ std::uint64_t hash_of(std::string_view text) noexcept {
 
 }  // namespace
 
+Shape* ShapeCache::known(std::string_view statement, std::vector<Literal>& literals) {
+  const std::uint64_t head = KnownText::head_of(statement);
+  if (head == 0) return nullptr;
+  std::vector<Entry*>& entries = alike(head);
+  for (std::size_t place = 0; place < entries.size(); ++place) {
+    Entry* const entry = entries[place];
+    if (entry->words.head() != head || !entry->words.matches(statement, literals)) continue;
+    // The rows of a bill send one text after the other.
+    std::swap(entries[place], entries.front());
+    entry->used = ++now_;
+    return &entry->shape;
+  }
+  return nullptr;
+}
+
 Shape* ShapeCache::find(std::string_view text) {
   const auto found = entries_.find(hash_of(text));
   if (found == entries_.end() || found->second.text != text) return nullptr;
@@ -43,22 +59,26 @@ Shape* ShapeCache::find(std::string_view text) {
 Shape& ShapeCache::add(std::string_view text, Shape shape) {
   const std::uint64_t hash = hash_of(text);
   // Another text of the same hash gives way.
-  drop(hash);
-  const std::size_t bytes = text.size() + shape.held_bytes();
+  if (const auto same = entries_.find(hash); same != entries_.end()) drop(same);
+  KnownText words(text, shape.values());
+  const std::size_t bytes = 2 * text.size() + shape.held_bytes();
   while (!entries_.empty() && (entries_.size() >= capacity_ || held_bytes_ + bytes > largest_cache)) drop_oldest();
   held_bytes_ += bytes;
-  return entries_.try_emplace(hash, Entry{std::string(text), std::move(shape), ++now_, bytes}).first->second.shape;
+  Entry& entry = entries_.try_emplace(hash, Entry{std::string(text), std::move(shape), ++now_, bytes, std::move(words)})
+                     .first->second;
+  if (entry.words.head() != 0) alike(entry.words.head()).push_back(&entry);
+  return entry.shape;
 }
 
 void ShapeCache::clear() noexcept {
+  for (auto& entries : by_head_) entries.clear();
   entries_.clear();
   held_bytes_ = 0;
 }
 
-void ShapeCache::drop(std::uint64_t hash) {
-  const auto entry = entries_.find(hash);
-  if (entry == entries_.end()) return;
+void ShapeCache::drop(Entries::iterator entry) {
   held_bytes_ -= entry->second.bytes;
+  if (entry->second.words.head() != 0) std::erase(alike(entry->second.words.head()), &entry->second);
   entries_.erase(entry);
 }
 
@@ -66,7 +86,7 @@ void ShapeCache::drop_oldest() {
   const auto oldest = std::min_element(entries_.begin(), entries_.end(), [](const auto& left, const auto& right) {
     return left.second.used < right.second.used;
   });
-  if (oldest != entries_.end()) drop(oldest->first);
+  if (oldest != entries_.end()) drop(oldest);
 }
 
 }  // namespace brunvik::sqlite

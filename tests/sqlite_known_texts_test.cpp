@@ -1,0 +1,103 @@
+// A statement that comes again with other values means what it would mean as the first of its text.
+#include "drivers/sqlite/cutter.h"
+#include "drivers/sqlite/known_text.h"
+#include "tests/sqlite_books.h"
+
+namespace brunvik::sqlite {
+namespace {
+
+class SqliteKnownTexts : public SqliteBooks {};
+
+TEST_F(SqliteKnownTexts, Values_of_any_content_come_through_each_time) {
+  const std::string insert = "insert into ZHXX(ID,ZH,YE) values(";
+  for (const char* row : {"'a','x',1", "'b','O''Neil',2.5", "'c','',0", "'d','''',3e2", "'e','1',-4", "'f',1,.5"}) {
+    run(insert + row + ")");
+  }
+  const char* const texts[] = {"x", "O'Neil", "", "'", "1", "1"};
+  const char* const amounts[] = {"1", "2.5", "0", "300", "-4", "0.5"};
+  for (int row = 0; row < 6; ++row) {
+    const std::string id(1, static_cast<char>('a' + row));
+    EXPECT_EQ(text("select ZH from ZHXX where ID='" + id + "'"), texts[row]);
+    EXPECT_EQ(text("select YE from ZHXX where ID='" + id + "'"), amounts[row]);
+  }
+}
+
+TEST_F(SqliteKnownTexts, What_is_refused_is_refused_behind_a_text_that_is_known) {
+  const std::string by_number = "select * from ZHXX where KHH='x' and YE=";
+  run(by_number + "1");
+  EXPECT_NE(error_of(*books, by_number + "1x"), 0);
+  EXPECT_NE(error_of(*books, by_number), 0);
+  EXPECT_NE(error_of(*books, by_number + "1 ?"), 0);
+  EXPECT_NE(error_of(*books, "select * from ZHXX where KHH='x"), 0);
+  EXPECT_EQ(run(by_number + "2").record_count(), 0U);
+}
+
+TEST_F(SqliteKnownTexts, Words_that_go_on_make_another_statement) {
+  run("insert into ZHXX(ID,YE) values('a',1)");
+  run("insert into ZHXX(ID,YE) values('b',2)");
+  EXPECT_EQ(run("select ID from ZHXX where ID='a'").record_count(), 1U);
+  EXPECT_EQ(run("select ID from ZHXX where ID='a' or YE=2").record_count(), 2U);
+  EXPECT_EQ(run("select ID from ZHXX where ID='a'||'b'").record_count(), 0U);
+  EXPECT_EQ(run("select ID from ZHXX where ID='b'").record_count(), 1U);
+}
+
+// The bytes that mark values in a shape can stand in a literal that the shape keeps.
+TEST_F(SqliteKnownTexts, A_pattern_that_holds_a_mark_is_not_taken_for_a_value) {
+  run("insert into ZHXX(ID,ZH) values('a','5')");
+  const std::string pattern = "select ID from ZHXX where ZH like '";
+  EXPECT_EQ(run(pattern + "\x02'").record_count(), 0U);
+  EXPECT_EQ(run(pattern + "5'").record_count(), 1U);
+  EXPECT_EQ(run(pattern + "\x02'").record_count(), 0U);
+}
+
+TEST_F(SqliteKnownTexts, A_text_that_was_let_go_is_known_no_more) {
+  const auto few = open(":memory:", {.cached_statements = 2});
+  lay_small_books(*few);
+  for (int round = 0; round < 3; ++round) {
+    for (const char* column : {"ID", "ZH", "KHH", "YE"}) {
+      const std::string statement = "select " + std::string(column) + " from ZHXX where ID='";
+      EXPECT_EQ(few->Execute(statement + std::to_string(round) + "'").names().front(), column);
+    }
+  }
+}
+
+TEST(SqliteKnownText, It_cuts_what_the_cutter_cuts) {
+  Cutter cutter;
+  cutter.cut("update stockbill set Remarks='',Amount=1.5,Status=0 where Id='JHR1'");
+  const KnownText known(cutter.shape(), cutter.literals().size());
+  ASSERT_NE(known.head(), 0U);
+  const std::string_view again = "update stockbill set Remarks='a''b',Amount=7,Status=33 where Id=''";
+  ASSERT_EQ(KnownText::head_of(again), known.head());
+  std::vector<Literal> literals;
+  ASSERT_TRUE(known.matches(again, literals));
+  ASSERT_TRUE(cutter.cut(again));
+  ASSERT_EQ(literals.size(), cutter.literals().size());
+  for (std::size_t place = 0; place < literals.size(); ++place) {
+    EXPECT_EQ(literals[place].content.data(), cutter.literals()[place].content.data());
+    EXPECT_EQ(literals[place].content.size(), cutter.literals()[place].content.size());
+    EXPECT_EQ(literals[place].kind, cutter.literals()[place].kind);
+    EXPECT_EQ(literals[place].has_apostrophes, cutter.literals()[place].has_apostrophes);
+  }
+  EXPECT_FALSE(known.matches("update stockbill set Remarks=null,Amount=7,Status=33 where Id=''", literals));
+  EXPECT_FALSE(known.matches("update stockbill set Remarks='a',Amount='7',Status=33 where Id=''", literals));
+}
+
+TEST_F(SqliteKnownTexts, A_zero_that_is_assigned_shares_the_shape_of_other_numbers) {
+  run("update ZHXX set YE=1 where ID='a'");
+  const std::size_t shapes = books->cached_statements();
+  run("update ZHXX set YE=0 where ID='a'");
+  EXPECT_EQ(books->cached_statements(), shapes);
+}
+
+TEST_F(SqliteKnownTexts, A_zero_that_is_asked_for_finds_what_other_numbers_do_not) {
+  run("insert into ZHXX(ID,YE) values('a',0)");
+  run("insert into ZHXX(ID,YE) values('b',1)");
+  for (int round = 0; round < 2; ++round) {
+    EXPECT_EQ(text("select ID from ZHXX where KHH is null and YE=1"), "b");
+    EXPECT_EQ(text("select ID from ZHXX where KHH is null and YE=0"), "a");
+    EXPECT_EQ(text("select ID from ZHXX where KHH is null and YE=0.0"), "a");
+  }
+}
+
+}  // namespace
+}  // namespace brunvik::sqlite
