@@ -10,6 +10,7 @@
 #include "drivers/sqlite/failure.h"
 #include "drivers/sqlite/functions.h"
 #include "drivers/sqlite/grouping.h"
+#include "drivers/sqlite/neighbour.h"
 #include "drivers/sqlite/own_words.h"
 #include "drivers/sqlite/pattern.h"
 #include "drivers/sqlite/scope.h"
@@ -57,7 +58,7 @@ class Rewriter {
     if (is(verb, "select")) {
       // What EXPLAIN tells has columns of its own.
       if (!is(0, "explain")) describe_selection(tokens_, expressions_, verb + 1, end, result_);
-      if (highest_number(verb, end)) return;
+      if (highest_number(verb, end) || neighbour(verb, end)) return;
     }
     range(verb, end);
   }
@@ -81,6 +82,21 @@ class Rewriter {
                    " COLLATE BINARY DESC LIMIT 1)",
                true);
     for (std::size_t place = column + 3; place < from; ++place) write(place);
+    return true;
+  }
+
+  // A sign in front of a column keeps its value and takes it out of the engine's choice of ranges.
+  bool neighbour(std::size_t verb, std::size_t end) {
+    const auto found = neighbour_in_series(tokens_, verb);
+    if (!found) return false;
+    const std::size_t behind_pattern = found->matched + 3;
+    range(verb, found->compared);
+    out_.write("+", true);
+    range(found->compared, found->matched);
+    out_.write("+", true);
+    range(found->matched, behind_pattern);
+    out_.write(found->range, true);
+    range(behind_pattern, end);
     return true;
   }
 
