@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "brunvik/foundation/statement_writer.h"
 #include "tests/support/error_number.h"
 #include "tests/support/sample.h"
 #include "tests/support/scripted_connection.h"
@@ -213,11 +214,11 @@ TEST(Members, A_property_may_be_read_from_a_column_that_another_writes) {
 TEST(Members, Write_their_value_into_a_statement) {
   Sample object;
   object.ID = "O'Neil";
-  std::string text;
-  member("ID").append_to(text, object);
-  member("Closed").append_to(text, object);
-  member("Anything").append_to(text, object);
-  EXPECT_EQ(text, "'O''Neil'1null");
+  StatementWriter statement;
+  member("ID").write_to(statement, object);
+  member("Closed").write_to(statement, object);
+  member("Anything").write_to(statement, object);
+  EXPECT_EQ(std::move(statement).text(), "'O''Neil'1null");
 }
 
 TEST(RowCollection, Has_positions_from_1_to_its_count) {

@@ -5,10 +5,24 @@
 #include <string>
 
 #include "brunvik/foundation/Brunvik_Variable.h"
+#include "brunvik/foundation/statement_writer.h"
 #include "tests/support/apartment.h"
 
 namespace brunvik {
 namespace {
+
+TEST(StatementWriter, Keeps_a_statement_of_any_length) {
+  StatementWriter statement;
+  std::string expected;
+  for (int piece = 0; piece < 500; ++piece) {
+    const std::string text(static_cast<std::size_t>(piece), 'a');
+    statement.add_quoted(" " + text + "'");
+    statement.add(std::int64_t{-piece});
+    statement.add(",");
+    expected += "'" + text + "'''" + std::to_string(-piece) + ",";
+  }
+  EXPECT_EQ(std::move(statement).text(), expected);
+}
 
 TEST(SqlText, Puts_each_value_at_its_place) {
   EXPECT_EQ(sql("update stockbill set Status={},Auditor={} where id={}", Long{3}, std::string("O'Neil "), "QTR1"),

@@ -72,29 +72,31 @@ Money Money::parse(std::string_view text) {
   return narrow(divide_ties_to_even((negative ? -digits : digits) * scale, divisor));
 }
 
-void Money::append_to(std::string& text) const {
-  const bool negative = count_ < 0;
+char* write_amount(char* place, std::int64_t ten_thousandths) noexcept {
+  const bool negative = ten_thousandths < 0;
   // The magnitude of the lowest count has no place in a signed number.
-  const std::uint64_t magnitude =
-      negative ? std::uint64_t{0} - static_cast<std::uint64_t>(count_) : static_cast<std::uint64_t>(count_);
-  std::array<char, 32> buffer{};
-  char* end = buffer.data();
-  if (negative) *end++ = '-';
-  end = std::to_chars(end, buffer.data() + buffer.size(), magnitude / scale).ptr;
-  if (auto fraction = static_cast<unsigned>(magnitude % scale); fraction != 0) {
-    *end++ = '.';
-    for (unsigned place = 1'000; fraction != 0; place /= 10) {
-      *end++ = static_cast<char>('0' + fraction / place);
-      fraction %= place;
+  const auto count = static_cast<std::uint64_t>(ten_thousandths);
+  const std::uint64_t magnitude = negative ? std::uint64_t{0} - count : count;
+  if (negative) *place++ = '-';
+  place = std::to_chars(place, place + 20, magnitude / Money::scale).ptr;
+  if (auto fraction = static_cast<unsigned>(magnitude % Money::scale); fraction != 0) {
+    *place++ = '.';
+    for (unsigned unit = 1'000; fraction != 0; unit /= 10) {
+      *place++ = static_cast<char>('0' + fraction / unit);
+      fraction %= unit;
     }
   }
-  text.append(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
+  return place;
+}
+
+void Money::append_to(std::string& text) const {
+  std::array<char, 24> buffer;
+  text.append(buffer.data(), write_amount(buffer.data(), count_));
 }
 
 std::string Money::text() const {
-  std::string text;
-  append_to(text);
-  return text;
+  std::array<char, 24> buffer;
+  return {buffer.data(), write_amount(buffer.data(), count_)};
 }
 
 std::ostream& operator<<(std::ostream& out, Money amount) { return out << amount.text(); }

@@ -42,10 +42,15 @@ void append_large(std::string& text, Number value) {
 
 template <class Number>
 void append_floating(std::string& text, Number value) {
-  if (std::isfinite(value) && std::fabs(value) >= first_inexact<Number>) return append_large(text, value);
+  if (std::fabs(value) < first_inexact<Number>) {
+    // Most quantities are whole, and the digits of a whole number are found at a third of the cost.
+    const auto whole = static_cast<std::int64_t>(value);
+    if (static_cast<Number>(whole) == value) return append_number(text, whole);
+  } else if (std::isfinite(value)) {
+    return append_large(text, value);
+  }
   // The longest plain text has some 340 digits behind the point.
   std::array<char, 400> buffer;
-  if (value == 0) value = 0;  // A negative zero is written as zero.
   const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed);
   text.append(buffer.data(), static_cast<std::size_t>(end.ptr - buffer.data()));
 }
@@ -65,6 +70,11 @@ void append_number(std::string& text, std::int64_t value) {
   std::array<char, 24> buffer;
   const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
   text.append(buffer.data(), static_cast<std::size_t>(end.ptr - buffer.data()));
+}
+
+std::string number_text(std::int64_t value) {
+  std::array<char, 24> buffer;
+  return {buffer.data(), std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr};
 }
 
 void append_number(std::string& text, Single value) { append_floating(text, value); }

@@ -13,6 +13,11 @@ void append_number(std::string& text, std::int64_t value);
 void append_number(std::string& text, Single value);
 void append_number(std::string& text, Double value);
 
+std::string number_text(std::int64_t value);
+
+// Writes an amount, given in ten-thousandths, in at most 24 bytes. The place behind it.
+char* write_amount(char* place, std::int64_t ten_thousandths) noexcept;
+
 // Reads decimal text (a point, an exponent where there is one); error 13 for other text, 6 for too large a number.
 double parse_double(std::string_view text);
 

@@ -1,5 +1,6 @@
 #include "brunvik/ado/recordset.h"
 
+#include <bit>
 #include <utility>
 
 #include "brunvik/ado/connection.h"
@@ -23,16 +24,28 @@ std::uint32_t mark_of(std::string_view name) noexcept {
 }  // namespace
 
 ColumnNames::ColumnNames(std::vector<std::string> names) : names_(std::move(names)) {
-  for (const std::string& name : names_) marks_.push_back(mark_of(name));
+  slots_.resize(std::bit_ceil(2 * names_.size() + 1));
+  for (std::size_t place = 0; place < names_.size(); ++place) {
+    const std::uint32_t mark = mark_of(names_[place]);
+    std::size_t slot = first_slot(mark);
+    while (slots_[slot].place != 0) slot = (slot + 1) & (slots_.size() - 1);
+    slots_[slot] = {mark, static_cast<std::uint32_t>(place + 1)};
+  }
 }
 
+std::size_t ColumnNames::first_slot(std::uint32_t mark) const noexcept {
+  return (mark * 0x9e3779b1U >> 16) & (slots_.size() - 1);
+}
+
+// A goods record of 28 columns is read by name for each row that moves: name by name through the list that would be
+// three in ten of all that the library does in an audit.
 std::size_t ColumnNames::find(std::string_view name) const noexcept {
   const std::uint32_t mark = mark_of(name);
-  std::size_t place = 0;
-  for (; place < marks_.size(); ++place) {
-    if (marks_[place] == mark && same_name(names_[place], name)) break;
+  for (std::size_t slot = first_slot(mark); slots_[slot].place != 0; slot = (slot + 1) & (slots_.size() - 1)) {
+    const std::size_t place = slots_[slot].place - 1;
+    if (slots_[slot].mark == mark && same_name(names_[place], name)) return place;
   }
-  return place;
+  return names_.size();
 }
 
 Recordset::Recordset(std::vector<std::string> names, std::vector<Value> cells)
@@ -61,14 +74,12 @@ void Recordset::Open(std::string_view source) {
   connection_ = std::move(connection);
 }
 
-bool Recordset::at_end() const {
-  if (!open_) raise(error::object_closed);
-  return record_ * width_ >= cells_.size();
-}
+void Recordset::raise_closed() { raise(error::object_closed); }
+void Recordset::raise_no_record() { raise(error::no_current_record); }
 
 void Recordset::MoveNext() {
-  if (at_end()) raise(error::no_current_record);
-  ++record_;
+  if (at_end()) raise_no_record();
+  record_ += width_;
 }
 
 void Recordset::MoveFirst() {
@@ -91,11 +102,6 @@ Column Recordset::column(std::string_view name) const {
 }
 
 bool Recordset::has(std::string_view name) const noexcept { return open_ && names_->find(name) != width_; }
-
-const Value& Recordset::value(Column column) const {
-  if (at_end()) raise(error::no_current_record);
-  return cells_[record_ * width_ + static_cast<std::size_t>(column)];
-}
 
 Recordset execute(const ConnectionReference& connection, std::string_view statement, Road road) {
   if (!connection) raise(error::object_not_set, statement);

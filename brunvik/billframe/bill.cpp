@@ -6,6 +6,7 @@
 #include "brunvik/ado/clock.h"
 #include "brunvik/foundation/GetValue_Function.h"
 #include "brunvik/foundation/error_trap.h"
+#include "brunvik/foundation/member_columns.h"
 #include "brunvik/foundation/sql_text.h"
 
 namespace brunvik {
@@ -101,9 +102,7 @@ Long Bill::propose_number(std::string& BID, std::string_view prefix) noexcept {
 
 void Bill::read_properties(const ado::Recordset& set) {
   if (set.at_end()) return;
-  for (const Member& member : members()) {
-    if (!member.read_column().empty()) member.read(*this, set.value(member.read_column()));
-  }
+  MemberColumns::for_each(members(), set, [&](const Member& member, const Value& field) { member.read(*this, field); });
 }
 
 std::string Bill::aggregated_id(const ado::Recordset& set) {

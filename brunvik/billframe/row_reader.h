@@ -24,7 +24,8 @@ void read_rows(RowCollection& rows, ado::Recordset set, const RowMembers& member
   for (; !set.at_end(); set.MoveNext()) {
     auto& row = static_cast<Row&>(rows.add());
     try {
-      for (const auto& [member, column] : fields) member->read(row, set.value(column));
+      const std::span<const Value> record = set.record();
+      for (const auto& [member, column] : fields) member->read(row, record[static_cast<std::size_t>(column)]);
       finish(row, set);
     } catch (...) {
       // A row counts when all of it is read: a voucher must not settle the row whose bill it could not look at.

@@ -10,6 +10,7 @@
 #include "brunvik/foundation/Brunvik_Variable.h"
 #include "brunvik/foundation/error_trap.h"
 #include "brunvik/foundation/sql_text.h"
+#include "brunvik/foundation/statement_writer.h"
 #include "brunvik/foundation/text.h"
 
 namespace brunvik {
@@ -36,6 +37,7 @@ std::string like_text(std::string_view text, std::string_view wildcard, std::str
 
 // A statement that a host wrote with the literal words; databases know 1 and 0. Blind: it reaches into texts too.
 void rewrite_booleans(std::string& statement) {
+  if (statement.find("TRUE") == std::string::npos && statement.find("FALSE") == std::string::npos) return;
   static constexpr std::array<std::pair<std::string_view, std::string_view>, 8> replacements{{{",TRUE", ",1"},
                                                                                               {"TRUE,", "1,"},
                                                                                               {"= TRUE", "= 1"},
@@ -57,28 +59,29 @@ void run_in_upper_case(std::string& statement) {
 
 }  // namespace
 
-std::string GetSqlVal(const Value& Value, bool IsLike, std::string_view WildCard, std::string_view Position) {
+// The types of nearly all values stand in front of the general road, each in a text that is returned where it was made.
+std::string GetSqlVal(const Value& Value, bool IsLike, std::string_view WildCard, std::string_view Position) try {
+  if (const auto* words = Value.get_if<std::string>(); words && !IsLike) return quoted(*words);
+  if (const auto* number = Value.get_if<Long>()) return ado::number_text(*number);
+  if (const auto* amount = Value.get_if<Money>()) return amount->text();
   std::string text;
-  trap("GetSqlVal():", [&] {
-    // The types of nearly all values, in front of the general road.
-    if (const auto* words = Value.get_if<std::string>(); words && !IsLike) return append_quoted(text, *words);
-    if (const auto* number = Value.get_if<Long>()) return ado::append_number(text, std::int64_t{*number});
-    if (const auto* amount = Value.get_if<Money>()) return amount->append_to(text);
-    Value.visit([&](const auto& content) {
-      using Type = std::decay_t<decltype(content)>;
-      if constexpr (std::is_same_v<Type, ado::Empty> || std::is_same_v<Type, ado::Null>) {
-        text = "null";
-      } else if constexpr (std::is_same_v<Type, std::string>) {
-        text = like_text(content, WildCard, Position);
-      } else if constexpr (std::is_same_v<Type, Date>) {
-        std::string date = Get_DateStr(content, 0);
-        text = content == Date{} ? "null" : std::move(date);
-      } else if constexpr (std::is_arithmetic_v<Type> || std::is_same_v<Type, Money>) {
-        SqlValue(content).append_to(text);
-      }
-    });
+  Value.visit([&](const auto& content) {
+    using Type = std::decay_t<decltype(content)>;
+    if constexpr (std::is_same_v<Type, ado::Empty> || std::is_same_v<Type, ado::Null>) {
+      text = "null";
+    } else if constexpr (std::is_same_v<Type, std::string>) {
+      text = like_text(content, WildCard, Position);
+    } else if constexpr (std::is_same_v<Type, Date>) {
+      std::string date = Get_DateStr(content, 0);
+      text = content == Date{} ? "null" : std::move(date);
+    } else if constexpr (std::is_arithmetic_v<Type> || std::is_same_v<Type, Money>) {
+      SqlValue(content).append_to(text);
+    }
   });
   return text;
+} catch (...) {
+  detail::notify_of_current_exception("GetSqlVal():", notice_title);
+  return {};
 }
 
 Value EscapeLike(std::string_view Text) { return escaped(Text); }

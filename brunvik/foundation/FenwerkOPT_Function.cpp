@@ -3,6 +3,7 @@
 #include "brunvik/ado/recordset.h"
 #include "brunvik/foundation/ConnOPT_Function.h"
 #include "brunvik/foundation/error_trap.h"
+#include "brunvik/foundation/member_columns.h"
 #include "brunvik/foundation/sql_text.h"
 
 namespace brunvik {
@@ -15,10 +16,9 @@ Long GetGoodsById(std::string_view Id, GoodsRecord& Goods) {
     Open_Recordset(set);
     set.Open(sql("select * from goods where id={}", Id));
     if (set.at_end()) return;
-    for (const Member& member : Goods.members()) {
-      const Value& field = set.value(member.read_column());
+    MemberColumns::for_each(Goods.members(), set, [&](const Member& member, const Value& field) {
       if (!field.is_null() || member.type() == Type::Text) member.read(Goods, field);
-    }
+    });
   });
 }
 

@@ -3,9 +3,9 @@
 #include <utility>
 
 #include "brunvik/ado/names.h"
-#include "brunvik/ado/numbers.h"
 #include "brunvik/foundation/Declare_EnumType.h"
 #include "brunvik/foundation/sql_text.h"
+#include "brunvik/foundation/statement_writer.h"
 #include "brunvik/foundation/text.h"
 
 namespace brunvik {
@@ -74,28 +74,28 @@ ColumnStatement::Form ColumnStatement::resolved(Parts parts, const Members& memb
 
 std::string ColumnStatement::text(const PublicObject& object, Long status) const {
   const Form& form = status == status::audited ? audited_ : other_;
-  std::string statement;
-  statement.reserve(512);
+  StatementWriter statement;
   for (const Place& place : form.places) {
-    statement += place.text_before;
+    statement.add(place.text_before);
     switch (place.kind) {
       case ColumnSource::Kind::property:
-        place.property->append_to(statement, object);
+        place.property->write_to(statement, object);
         break;
       case ColumnSource::Kind::constant:
-        ado::append_number(statement, std::int64_t{place.constant});
+        statement.add(std::int64_t{place.constant});
         break;
       case ColumnSource::Kind::argument:
-        ado::append_number(statement, std::int64_t{status});
+        statement.add(std::int64_t{status});
         break;
       case ColumnSource::Kind::worked_out: {
         const ado::Value value = place.work_out(object);
-        SqlValue(value).append_to(statement);
+        SqlValue(value).write_to(statement);
         break;
       }
     }
   }
-  return statement += form.tail;
+  statement.add(form.tail);
+  return std::move(statement).text();
 }
 
 std::vector<const Member*> ColumnStatement::members_written() const {

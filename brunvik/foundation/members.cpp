@@ -1,5 +1,6 @@
 #include "brunvik/foundation/members.h"
 
+#include <atomic>
 #include <utility>
 
 #include "brunvik/ado/errors.h"
@@ -40,6 +41,8 @@ void visit_stored(Type type, void* place, Visitor&& visitor) {
 
 void take(std::string& property, const Value& value) {
   if (const auto* text = value.get_if<std::string>()) {
+    // Half of a row's texts are empty, and so are the properties of a row that is filled for the first time.
+    if (text->empty()) return property.clear();
     property = *text;
   } else {
     property = value.as_text();
@@ -60,6 +63,11 @@ ado::ConnectionReference connection_in(const Value& value) {
   auto connection = object ? std::dynamic_pointer_cast<ado::Connection>(*object) : nullptr;
   if (!connection && !(object && !*object)) ado::raise(ado::error::type_mismatch);
   return connection;
+}
+
+std::size_t next_number() noexcept {
+  static std::atomic<std::size_t> tables{0};
+  return tables++;
 }
 
 }  // namespace
@@ -162,13 +170,13 @@ bool Member::is_kept_at(const PublicObject& object, const void* place) const {
   return place_ && place_(const_cast<PublicObject&>(object)) == place;
 }
 
-void Member::append_to(std::string& statement, const PublicObject& object) const {
+void Member::write_to(StatementWriter& statement, const PublicObject& object) const {
   if (compute_) {
     const Value value = compute_(object);
-    return SqlValue(value).append_to(statement);
+    return SqlValue(value).write_to(statement);
   }
   visit_stored(type_, place_(const_cast<PublicObject&>(object)),
-               [&](const auto& property) { SqlValue(property).append_to(statement); });
+               [&](const auto& property) { SqlValue(property).write_to(statement); });
 }
 
 void Member::read(PublicObject& object, const Value& field) const {
@@ -236,7 +244,7 @@ void complete_arguments(const std::vector<Parameter>& parameters, std::vector<Va
   }
 }
 
-Members::Members(std::initializer_list<Entry> entries) {
+Members::Members(std::initializer_list<Entry> entries) : number_(next_number()) {
   for (const Entry& entry : entries) members_.insert(members_.end(), entry.members_.begin(), entry.members_.end());
 }
 

@@ -37,6 +37,8 @@ enum class Type {
   Rows
 };
 
+class StatementWriter;
+
 std::string_view name_of(Type type) noexcept;
 
 enum class MemberKind { property, read_only_property, collection, verb };
@@ -112,7 +114,7 @@ class Member {
   std::string_view read_column() const noexcept { return read_column_; }
 
   // The value as GetSqlVal writes it.
-  void append_to(std::string& statement, const PublicObject& object) const;
+  void write_to(StatementWriter& statement, const PublicObject& object) const;
 
   // Takes the value of the column in a record.
   void read(PublicObject& object, const Value& field) const;
@@ -176,11 +178,15 @@ class Members {
   // is none.
   const Member& kept_at(const PublicObject& object, const void* place) const;
 
+  // Which of the process's tables it is; a copy has the same number.
+  std::size_t number() const noexcept { return number_; }
+
   auto begin() const noexcept { return members_.begin(); }
   auto end() const noexcept { return members_.end(); }
 
  private:
   MemberGroup members_;
+  std::size_t number_;
 };
 
 template <class Stored>

@@ -1,20 +1,12 @@
 #include "brunvik/foundation/sql_text.h"
 
+#include <utility>
+
 #include "brunvik/ado/numbers.h"
 #include "brunvik/foundation/ConnOPT_Function.h"
-#include "brunvik/foundation/text.h"
+#include "brunvik/foundation/statement_writer.h"
 
 namespace brunvik {
-
-void append_quoted(std::string& statement, std::string_view text) {
-  text = trimmed(text);
-  statement += '\'';
-  for (auto apostrophe = text.find('\''); apostrophe != std::string_view::npos; apostrophe = text.find('\'')) {
-    statement.append(text.substr(0, apostrophe + 1)) += '\'';
-    text.remove_prefix(apostrophe + 1);
-  }
-  statement.append(text) += '\'';
-}
 
 void SqlValue::append_to(std::string& statement) const {
   switch (kind_) {
@@ -56,26 +48,44 @@ void SqlValue::append_raw_to(std::string& statement) const {
   }
 }
 
-std::string fill_places(std::string_view statement, std::span<const SqlValue> values) {
-  std::string filled;
-  filled.reserve(statement.size() + 24 * values.size());
-  for (const SqlValue& value : values) {
-    const auto place = statement.find('{');
-    filled += statement.substr(0, place);
-    statement.remove_prefix(place + 1);
-    switch (statement.front()) {
-      case 'l':
-        value.append_like_key_to(filled);
-        break;
-      case 'r':
-        value.append_raw_to(filled);
-        break;
-      default:
-        value.append_to(filled);
+void SqlValue::write_to(StatementWriter& statement) const {
+  switch (kind_) {
+    case Kind::whole:
+      return statement.add(whole_);
+    case Kind::text:
+      return statement.add_quoted(text_);
+    case Kind::money:
+      return statement.add(money_);
+    default: {
+      std::string text;
+      append_to(text);
+      statement.add(text);
     }
-    statement.remove_prefix(statement.find('}') + 1);
   }
-  return filled.append(statement);
+}
+
+std::string fill_places(std::string_view statement, std::span<const TextPlace> places,
+                        std::span<const SqlValue> values) {
+  StatementWriter filled;
+  std::size_t done = 0;
+  for (std::size_t number = 0; number < places.size(); ++number) {
+    const TextPlace& place = places[number];
+    filled.add({statement.data() + done, place.begin - done});
+    done = place.end;
+    if (place.kind == TextPlace::Kind::quoted) {
+      values[number].write_to(filled);
+      continue;
+    }
+    std::string text;
+    if (place.kind == TextPlace::Kind::like) {
+      values[number].append_like_key_to(text);
+    } else {
+      values[number].append_raw_to(text);
+    }
+    filled.add(text);
+  }
+  filled.add({statement.data() + done, statement.size() - done});
+  return std::move(filled).text();
 }
 
 }  // namespace brunvik

@@ -19,6 +19,8 @@
 
 namespace brunvik {
 
+class StatementWriter;
+
 // One value on its way into a statement; it refers to what it was made from.
 class SqlValue {
  public:
@@ -35,6 +37,7 @@ class SqlValue {
   SqlValue(const Value& value) : kind_(Kind::dynamic), dynamic_(&value) {}
 
   void append_to(std::string& statement) const;
+  void write_to(StatementWriter& statement) const;
   void append_like_key_to(std::string& statement) const;
   void append_raw_to(std::string& statement) const;
 
@@ -52,33 +55,49 @@ class SqlValue {
   };
 };
 
-// The text in apostrophes, trimmed, its apostrophes doubled.
-void append_quoted(std::string& statement, std::string_view text);
+// Where a value stands in a statement, and how it goes in.
+struct TextPlace {
+  enum class Kind : std::uint8_t { quoted, like, raw };
 
+  Kind kind;
+  std::uint16_t begin, end;
+};
+
+// Its places are found when the code is compiled, not at each of its uses.
 template <std::size_t Places>
 class StatementText {
  public:
   consteval StatementText(const char* text) : text_(text) {
     std::size_t places = 0;
     for (std::size_t at = text_.find('{'); at != std::string_view::npos; at = text_.find('{', at + 1)) {
-      const std::string_view place = text_.substr(at, text_.find('}', at) - at + 1);
+      const std::size_t end = text_.find('}', at) + 1;
+      const std::string_view place = text_.substr(at, end - at);
       if (place != "{}" && place != "{like}" && place != "{raw}") throw "a place is {}, {like} or {raw}";
-      ++places;
+      if (places == Places) throw "a statement has as many places as values";
+      places_[places++] = {place == "{}"       ? TextPlace::Kind::quoted
+                           : place == "{like}" ? TextPlace::Kind::like
+                                               : TextPlace::Kind::raw,
+                           static_cast<std::uint16_t>(at), static_cast<std::uint16_t>(end)};
     }
     if (places != Places) throw "a statement has as many places as values";
   }
 
   constexpr std::string_view text() const { return text_; }
+  constexpr std::span<const TextPlace> places() const { return places_; }
 
  private:
   std::string_view text_;
+  std::array<TextPlace, Places> places_{};
 };
 
-std::string fill_places(std::string_view statement, std::span<const SqlValue> values);
+// As many values as places.
+std::string fill_places(std::string_view statement, std::span<const TextPlace> places,
+                        std::span<const SqlValue> values);
 
 template <class... Values>
-std::string sql(std::type_identity_t<StatementText<sizeof...(Values)>> statement, const Values&... values) {
-  return fill_places(statement.text(), std::array<SqlValue, sizeof...(Values)>{SqlValue(values)...});
+std::string sql(const std::type_identity_t<StatementText<sizeof...(Values)>>& statement, const Values&... values) {
+  return fill_places(statement.text(), statement.places(),
+                     std::array<SqlValue, sizeof...(Values)>{SqlValue(values)...});
 }
 
 }  // namespace brunvik

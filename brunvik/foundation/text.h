@@ -9,9 +9,9 @@ namespace brunvik {
 
 // Without the blanks (U+0020 alone) at both ends.
 constexpr std::string_view trimmed(std::string_view text) noexcept {
-  const auto first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+  while (text.starts_with(' ')) text.remove_prefix(1);
+  while (text.ends_with(' ')) text.remove_suffix(1);
+  return text;
 }
 
 // Upper case by Unicode's simple mapping, character by character: a becomes A, ａ becomes Ａ, ß stays.
