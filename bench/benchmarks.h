@@ -17,6 +17,9 @@ void register_library_share();
 // The driver against plain SQLite, given the same statements as text and as prepared statements.
 void register_driver();
 
+// Library, replay and prepared statements in instructions; only where the program runs in callgrind.
+void register_counts();
+
 // The same verbs at a thousand and at a million bills.
 void register_growth();
 

@@ -16,6 +16,7 @@ int main(int count, char** arguments) try {
   bench::register_values();
   bench::register_library_share();
   bench::register_driver();
+  bench::register_counts();
   bench::register_growth();
   benchmark::RunSpecifiedBenchmarks();
   return 0;

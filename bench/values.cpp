@@ -11,9 +11,11 @@
 #include <vector>
 
 #include "bench/benchmarks.h"
+#include "bench/counting.h"
 #include "bench/times.h"
 #include "brunvik/foundation/ConnOPT_Function.h"
 #include "brunvik/foundation/sql_text.h"
+#include "brunvik/foundation/statement_writer.h"
 
 namespace brunvik::bench {
 
@@ -87,50 +89,92 @@ template <class Type>
   return text;
 }
 
+// The contenders, each with the text that it makes of a thousand values.
+template <class Type>
+class Contest {
+ public:
+  explicit Contest(Type (*make)(unsigned)) {
+    for (unsigned number = 0; number < value_count; ++number) {
+      stored_.push_back(make(number));
+      dynamic_.emplace_back(stored_.back());
+    }
+  }
+
+  // Calls `round(name, work)` for each contender.
+  template <class Round>
+  void each(Round&& round) {
+    round("hand", [this] {
+      by_hand_.clear();
+      for (const Type& value : stored_) append_by_hand(by_hand_, value);
+      benchmark::DoNotOptimize(by_hand_.data());
+    });
+    round("returned", [this] {
+      returned_.clear();
+      for (const Type& value : stored_) returned_ += text_by_hand(value);
+      benchmark::DoNotOptimize(returned_.data());
+    });
+    round("procedure", [this] {
+      by_procedure_.clear();
+      for (const Value& value : dynamic_) by_procedure_ += GetSqlVal(value);
+      benchmark::DoNotOptimize(by_procedure_.data());
+    });
+    round("statement", [this] {
+      StatementWriter statement;
+      for (const Type& value : stored_) SqlValue(value).write_to(statement);
+      by_statement_ = std::move(statement).text();
+      benchmark::DoNotOptimize(by_statement_.data());
+    });
+  }
+
+  void check() const {
+    if (by_hand_ != by_procedure_ || by_hand_ != by_statement_) throw std::runtime_error("the texts differ");
+  }
+
+ private:
+  std::vector<Type> stored_;
+  std::vector<Value> dynamic_;
+  std::string by_hand_, returned_, by_procedure_, by_statement_;
+};
+
 template <class Type>
 void values(benchmark::State& state, Type (*make)(unsigned)) {
-  std::vector<Type> stored;
-  std::vector<Value> dynamic;
-  for (unsigned number = 0; number < value_count; ++number) {
-    stored.push_back(make(number));
-    dynamic.emplace_back(stored.back());
-  }
-  std::string by_hand, returned, by_procedure, by_statement;
+  Contest<Type> contest(make);
   Times times;
   for (auto _ : state) {
-    times.time("hand", [&] {
-      by_hand.clear();
-      for (const Type& value : stored) append_by_hand(by_hand, value);
-      benchmark::DoNotOptimize(by_hand.data());
-    });
-    times.time("hand, returned", [&] {
-      returned.clear();
-      for (const Type& value : stored) returned += text_by_hand(value);
-      benchmark::DoNotOptimize(returned.data());
-    });
-    times.time("procedure", [&] {
-      by_procedure.clear();
-      for (const Value& value : dynamic) by_procedure += GetSqlVal(value);
-      benchmark::DoNotOptimize(by_procedure.data());
-    });
-    times.time("statement", [&] {
-      by_statement.clear();
-      for (const Type& value : stored) SqlValue(value).append_to(by_statement);
-      benchmark::DoNotOptimize(by_statement.data());
-    });
+    contest.each([&](const char* contender, const auto& work) { times.time(contender, work); });
   }
-  if (by_hand != by_procedure || by_hand != by_statement) throw std::runtime_error("the texts differ");
+  contest.check();
   state.counters["GetSqlVal"] = times.minimum("procedure") / times.minimum("hand");
-  state.counters["GetSqlVal/returned"] = times.minimum("procedure") / times.minimum("hand, returned");
+  state.counters["GetSqlVal/returned"] = times.minimum("procedure") / times.minimum("returned");
   state.counters["in_statement"] = times.minimum("statement") / times.minimum("hand");
   state.counters["hand_ns"] = times.minimum("hand") * 1'000 / value_count;
 }
 
+// The same in instructions.
 template <class Type>
-void register_value(const char* name, Type (*make)(unsigned)) {
-  benchmark::RegisterBenchmark(name, [=](benchmark::State& state) { values(state, make); })
+void value_counts(benchmark::State& state, const std::string& name, Type (*make)(unsigned)) {
+  if (!is_counting()) return state.SkipWithError("Instructions are counted in callgrind alone.");
+  Contest<Type> contest(make);
+  for (auto _ : state) {
+    contest.each([](const char*, const auto& work) { work(); });
+    start_counting();
+    contest.each([&](const std::string& contender, const auto& work) {
+      count(true, work);
+      write_count(name + "/" + contender);
+    });
+    stop_counting();
+  }
+  contest.check();
+}
+
+template <class Type>
+void register_value(const std::string& name, Type (*make)(unsigned)) {
+  benchmark::RegisterBenchmark(name.c_str(), [=](benchmark::State& state) { values(state, make); })
       ->Iterations(rounds)
       ->Unit(benchmark::kMicrosecond);
+  benchmark::RegisterBenchmark(("counts/" + name).c_str(), [=](benchmark::State& state) {
+    value_counts(state, name, make);
+  })->Iterations(1);
 }
 
 }  // namespace

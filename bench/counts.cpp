@@ -1,0 +1,105 @@
+// The comparisons of library and driver once more, in instructions: each contender lives the same lives, with one of
+// the verbs counted.
+#include <benchmark/benchmark.h>
+
+#include <vector>
+
+#include "bench/benchmarks.h"
+#include "bench/books.h"
+#include "bench/counting.h"
+#include "bench/life.h"
+#include "bench/recording.h"
+
+namespace brunvik::bench {
+
+namespace {
+
+constexpr unsigned lives = 4;
+
+// All lives with the step counted that stands at a place; none is, where no step stands there.
+void live(const ado::ConnectionReference& connection, const Document& document, std::size_t counted) {
+  for (unsigned seed = 0; seed < lives; ++seed) {
+    const Life life = document.life(connection, seed, Numbering::given);
+    life.begin();
+    for (std::size_t step = 0; step < life.steps.size(); ++step) {
+      count(step == counted, [&] { run(life.steps[step]); });
+    }
+  }
+}
+
+void replay(ado::Connection& connection, const std::vector<RecordedLife>& recorded, std::size_t counted) {
+  for (const RecordedLife& life : recorded) {
+    for (std::size_t step = 0; step < life.size(); ++step) {
+      count(step == counted, [&] {
+        for (const std::string& text : life[step].texts) connection.Execute(text);
+      });
+    }
+  }
+}
+
+using PreparedLife = std::vector<std::vector<PreparedText>>;
+
+void execute(PlainSqlite& plain, const std::vector<PreparedLife>& prepared, std::size_t counted) {
+  for (const PreparedLife& life : prepared) {
+    for (std::size_t step = 0; step < life.size(); ++step) {
+      count(step == counted, [&] {
+        for (const PreparedText& text : life[step]) plain.execute(text);
+      });
+    }
+  }
+}
+
+void counts(benchmark::State& state, const Document& document, const Place& place) {
+  if (!is_counting()) return state.SkipWithError("Instructions are counted in callgrind alone.");
+  const Folder folder;
+  const std::string books = folder.file("books.db");
+  lay_books(books, 1'000);
+  const auto connection = open_copy(folder, books, place);
+  const auto plain = open_plain_copy(folder, books, place);
+  // A log that is carried over into the file now and then would count for whoever comes by just then.
+  connection->Execute("pragma wal_autocheckpoint=0");
+  plain->execute("pragma wal_autocheckpoint=0");
+  std::vector<RecordedLife> recorded;
+  for (unsigned seed = 0; seed < lives; ++seed) recorded.push_back(record(connection, document.life, seed));
+  std::vector<PreparedLife> prepared;
+  for (const RecordedLife& life : recorded) {
+    PreparedLife& steps = prepared.emplace_back();
+    for (const RecordedStep& step : life) {
+      auto& texts = steps.emplace_back();
+      for (const std::string& text : step.texts) texts.push_back(plain->prepare(text));
+    }
+  }
+
+  const std::size_t none = recorded.front().size();
+  for (auto _ : state) {
+    live(connection, document, none);
+    replay(*connection, recorded, none);
+    execute(*plain, prepared, none);
+    start_counting();
+    for (std::size_t step = 0; step < none; ++step) {
+      const std::string name = std::string(place.name) + "/" + document.name + "/" + recorded.front()[step].verb + "/";
+      live(connection, document, step);
+      write_count(name + "library");
+      replay(*connection, recorded, step);
+      write_count(name + "driver");
+      execute(*plain, prepared, step);
+      write_count(name + "prepared");
+    }
+    stop_counting();
+  }
+}
+
+}  // namespace
+
+void register_counts() {
+  for (const Place& place : {in_memory, normal_log}) {
+    for (const Document& document : documents) {
+      const std::string name = "counts/" + std::string(place.name) + "/" + document.name;
+      benchmark::RegisterBenchmark(name.c_str(), [=](benchmark::State& state) { counts(state, document, place); })
+          ->Iterations(1)
+          ->Unit(benchmark::kSecond);
+    }
+  }
+}
+
+}  // namespace brunvik::bench
