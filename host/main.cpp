@@ -106,7 +106,11 @@ int demo_command(const Options& options) {
   }
   const auto story = std::ranges::find(stories, options.story, &host::Story::name);
   if (story == stories.end()) {
-    std::cerr << "brunvik: there is no story '" << options.story << "'; brunvik demo --list names them\n";
+    std::vector<std::string> names;
+    for (const host::Story& other : stories) names.push_back(other.name);
+    const std::string_view near = host::nearest(options.story, names);
+    std::cerr << "brunvik: there is no story '" << options.story << "'; "
+              << (near.empty() ? "" : "did you mean " + std::string(near) + "? ") << "brunvik demo --list names all\n";
     return bad_usage;
   }
   host::demo(*story, {options.database, options.settings, options.command}, std::cout);

@@ -73,6 +73,17 @@ TEST(HostStory, The_default_story_can_be_named) {
   EXPECT_EQ(brunvik(named).out, brunvik(usage).out);
 }
 
+TEST(HostStory, A_story_that_isn_t_there_is_bad_usage_and_the_nearest_one_is_named) {
+  const Ended near = brunvik({"demo", "counter-sail"});
+  EXPECT_EQ(near.status, 2);
+  EXPECT_EQ(near.out, "");
+  EXPECT_EQ(near.error,
+            "brunvik: there is no story 'counter-sail'; did you mean counter-sale? brunvik demo --list names all\n");
+  const Ended far = brunvik({"demo", "xyz"});
+  EXPECT_EQ(far.status, 2);
+  EXPECT_EQ(far.error, "brunvik: there is no story 'xyz'; brunvik demo --list names all\n");
+}
+
 TEST(HostStory, A_verb_shows_the_rows_that_it_added_and_changed_and_no_others) {
   const std::string shown = brunvik({"demo", "--db", "sqlite::memory:", "--now", "2024-03-05 10:00:00"}).out;
   const auto second = shown.find("== 进货入库 JHR24030500002  Save: 0\n");
