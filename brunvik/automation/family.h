@@ -16,6 +16,7 @@ struct Family {
   std::vector<RecordClass> records;
 };
 
+Family borrowing();
 Family purchasing();
 Family sales();
 Family settlement();

@@ -1,0 +1,59 @@
+// The member table of a borrow document.
+#pragma once
+
+#include <utility>
+
+#include "brunvik/foundation/late_binding.h"
+
+namespace brunvik {
+
+// What a document names in its own way, by its place in the table.
+struct OwnBorrowMembers {
+  // In front of the number, with the rows among them.
+  MemberGroup before_number;
+  // The other party and the persons.
+  MemberGroup people;
+  // Behind the audit.
+  MemberGroup verbs;
+};
+
+template <class C>
+Members borrow_members(OwnBorrowMembers own) {
+  return {
+      connection<&C::ADOConn>("ADOConn"),
+      std::move(own.before_number),
+      property<&C::ID>("ID", "Id"),
+      property<&C::Manualid>("Manualid", "ManualId"),
+      property<&C::UserFlag>("UserFlag", "Userflag"),
+      std::move(own.people),
+      property<&C::Salesman>("Salesman", "Salesman"),
+      property<&C::Creator>("Creator", "Creator"),
+      property<&C::Createtime>("Createtime", "CreateTime"),
+      property<&C::Inoutflag>("Inoutflag", "InOutFlag"),
+      property<&C::Status>("Status", "Status").required(),
+      property<&C::Auditor>("Auditor", "Auditor"),
+      property<&C::Audittime>("Audittime", "AuditTime"),
+      property<&C::Amount>("Amount", "Amount"),
+      property<&C::BillCost>("BillCost", "BillCost"),
+      property<&C::Closedtag>("Closedtag", "ClosedTag"),
+      property<&C::Referflag>("Referflag", "ReferFlag"),
+      property<&C::Referbillid>("Referbillid", "Referbillid"),
+      property<&C::Summary>("Summary", "Summary"),
+      property<&C::Remarks>("Remarks", "Remarks"),
+      verb<&C::Save>("Save"),
+      verb<&C::SaveAsDraft>("SaveAsDraft"),
+      verb<&C::Delete>("Delete"),
+      verb<&C::GetNewId>("GetNewId", out("BID")),
+      verb<&C::LoadLast>("LoadLast"),
+      verb<&C::GetLastId>("GetLastId", out("LastId")),
+      verb<&C::LoadNext>("LoadNext"),
+      verb<&C::LoadPreviou>("LoadPreviou"),
+      verb<&C::LoadById>("LoadById", in_out("BID")),
+      verb<&C::GetNearId>("GetNearId", in("CurBillID"), out("NearBillID"), optional(in("NextPreviousId"), false)),
+      verb<&C::Audit>("Audit"),
+      verb<&C::UndoAudit>("UndoAudit"),
+      std::move(own.verbs),
+  };
+}
+
+}  // namespace brunvik
