@@ -120,7 +120,11 @@ TEST(SchemaPlans, No_statement_of_the_documents_reads_a_table_from_end_to_end) {
        {"COVERING INDEX", "(Type=? AND BillId<?)"}},
       {"select Min(BillId) as BillId from AfterServiceBill where Type=34", {"COVERING INDEX", "(Type=?)"}},
       {"select Max(Id) as Id from GBorrowBill where type=28", {"GBorrowBill", "(Type=?)"}},
+      {"select * from GBorrowBill where type=30 order by Id desc", {"GBorrowBill", "(Type=?)"}},
+      {"select Min(Id) as Id from GBorrowBill where id > 'a' and type=29", {"GBorrowBill", "(Type=? AND Id>?)"}},
       {"select * from GBorrowItems where BillId='a'", {"GBorrowItems", "(BillId=?)"}},
+      {"update GBorrowItems set ActualQty=ActualQty+1 where BillId='a' and RowNum=1 and GoodStutas=0 and GId='G1'",
+       {"GBorrowItems", "(BillId=? AND RowNum=?)"}},
       {"select * from GBorrowList where BorrowId='a' and StcokId='b' and BorrowType=28 and StcokType=2 order by"
        " StcokRowNum",
        {"GBorrowList", "(BorrowId=? AND StcokId=?)"}},

@@ -51,7 +51,7 @@ class BorrowDocument : public Document {
     std::string_view people, tail;
     // The columns of a row from the quantities on.
     std::string_view row_columns;
-    // The column of the rows that names the warehouse.
+    // Reads the rows in their order, each with the name of its warehouse.
     StatementText<1> select_rows;
     bool closed_from_birth = false;
   };
@@ -64,7 +64,7 @@ class BorrowDocument : public Document {
   // with an empty number.
   void take_back(Long status, const std::string& bill);
 
-  // Adds a quantity to what of the row was returned, bought or sold, or takes it off.
+  // What becomes of the quantity that of a row was returned, bought or sold.
   enum class Change { add, reduce };
 
  private:
