@@ -72,8 +72,8 @@ void append_number(std::string& text, std::int64_t value) {
   text.append(buffer.data(), static_cast<std::size_t>(end.ptr - buffer.data()));
 }
 
-std::string number_text(std::int64_t value) {
-  std::array<char, 24> buffer;
+std::string number_text(Long value) {
+  std::array<char, 12> buffer;
   return {buffer.data(), std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr};
 }
 

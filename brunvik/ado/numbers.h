@@ -13,7 +13,7 @@ void append_number(std::string& text, std::int64_t value);
 void append_number(std::string& text, Single value);
 void append_number(std::string& text, Double value);
 
-std::string number_text(std::int64_t value);
+std::string number_text(Long value);
 
 // Writes an amount, given in ten-thousandths, in at most 24 bytes. The place behind it.
 char* write_amount(char* place, std::int64_t ten_thousandths) noexcept;

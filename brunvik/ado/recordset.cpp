@@ -69,9 +69,9 @@ void Recordset::set_active_connection(std::shared_ptr<Connection> connection) {
 
 void Recordset::Open(std::string_view source) {
   if (!connection_ || connection_->State() == 0) raise(error::connection_closed, source);
-  auto connection = connection_;
-  *this = send(*connection, source, Road::session);
-  connection_ = std::move(connection);
+  Recordset opened = send(*connection_, source, Road::session);
+  opened.connection_ = std::move(connection_);
+  *this = std::move(opened);
 }
 
 void Recordset::raise_closed() { raise(error::object_closed); }

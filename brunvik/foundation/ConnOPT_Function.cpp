@@ -124,7 +124,8 @@ void ExecuteNonQuerySql(std::string& Sql) {
 
 void Open_Recordset(ado::Recordset& Recordset) {
   trap("Open_Recordset():", [&] {
-    Recordset = ado::Recordset();
+    Recordset.Close();
+    Recordset.set_active_connection(nullptr);
     if (!session().ADOConn) ado::raise(ado::error::object_not_set);
     Recordset.set_active_connection(session().ADOConn);
   });

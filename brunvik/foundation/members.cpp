@@ -39,11 +39,15 @@ void visit_stored(Type type, void* place, Visitor&& visitor) {
   }
 }
 
+// Half of a row's texts are empty, and so are the properties of a row that is filled for the first time.
+inline void assign(std::string& property, const std::string& text) {
+  if (text.empty()) return property.clear();
+  property = text;
+}
+
 void take(std::string& property, const Value& value) {
   if (const auto* text = value.get_if<std::string>()) {
-    // Half of a row's texts are empty, and so are the properties of a row that is filled for the first time.
-    if (text->empty()) return property.clear();
-    property = *text;
+    assign(property, *text);
   } else {
     property = value.as_text();
   }
@@ -180,9 +184,15 @@ void Member::write_to(StatementWriter& statement, const PublicObject& object) co
 }
 
 void Member::read(PublicObject& object, const Value& field) const {
+  // Nine in ten members are texts and amounts, whose columns hold just that.
   if (type_ == Type::Text) {
     auto& text = *static_cast<std::string*>(place_(object));
+    if (const auto* const words = field.get_if<std::string>()) return assign(text, *words);
     return field.is_null() ? text.clear() : take(text, field);
+  }
+  if (const auto* const amount = field.get_if<Money>(); amount && type_ == Type::Money) {
+    *static_cast<Money*>(place_(object)) = *amount;
+    return;
   }
   if (field.is_null() && required_) ado::raise(ado::error::invalid_use_of_null);
   visit_stored(type_, place_(object), [&](auto& property) {

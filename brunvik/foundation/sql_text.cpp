@@ -1,5 +1,6 @@
 #include "brunvik/foundation/sql_text.h"
 
+#include <cmath>
 #include <utility>
 
 #include "brunvik/ado/numbers.h"
@@ -56,6 +57,12 @@ void SqlValue::write_to(StatementWriter& statement) const {
       return statement.add_quoted(text_);
     case Kind::money:
       return statement.add(money_);
+    case Kind::single:
+      // Most quantities are whole.
+      if (std::fabs(single_) < 1'000'000 && std::trunc(single_) == single_) {
+        return statement.add(static_cast<std::int64_t>(single_));
+      }
+      [[fallthrough]];
     default: {
       std::string text;
       append_to(text);

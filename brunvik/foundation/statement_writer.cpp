@@ -15,9 +15,10 @@ namespace {
 constexpr std::size_t short_length = 62;
 using QuotedBuffer = std::array<char, 2 * short_length + 2>;
 
-bool has_apostrophe(std::uint64_t eight_bytes) noexcept {
-  constexpr std::uint64_t ones = 0x0101010101010101U;
-  const std::uint64_t zero_where_apostrophe = eight_bytes ^ (ones * '\'');
+template <class Bytes>
+bool has_apostrophe(Bytes bytes) noexcept {
+  constexpr Bytes ones = static_cast<Bytes>(0x0101010101010101U);
+  const Bytes zero_where_apostrophe = bytes ^ (ones * '\'');
   return ((zero_where_apostrophe - ones) & ~zero_where_apostrophe & (ones << 7U)) != 0;
 }
 
@@ -30,7 +31,7 @@ char* copy_doubled(char* out, const char* place, const char* end) noexcept {
 }
 
 // The place behind the quoted text.
-char* quote_short(char* out, std::string_view text) noexcept {
+inline char* quote_short(char* out, std::string_view text) noexcept {
   const char* place = text.data();
   const char* const end = place + text.size();
   *out++ = '\'';
@@ -43,6 +44,18 @@ char* quote_short(char* out, std::string_view text) noexcept {
       std::memcpy(out, &eight, 8);
       out += 8;
     }
+  }
+  // The keys of goods and bills end here with five letters and digits, or six.
+  if (end - place >= 4) {
+    std::uint32_t four = 0;
+    std::memcpy(&four, place, 4);
+    if (has_apostrophe(four)) {
+      out = copy_doubled(out, place, place + 4);
+    } else {
+      std::memcpy(out, &four, 4);
+      out += 4;
+    }
+    place += 4;
   }
   out = copy_doubled(out, place, end);
   *out++ = '\'';

@@ -23,6 +23,13 @@ std::size_t ascii_length(std::string_view text) noexcept {
 
 constexpr bool continues_character(char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U; }
 
+// A character from U+4000 to U+9FFF: these have no case, and nearly all that the books hold beyond ASCII are among
+// them.
+constexpr bool begins_with_ideograph(std::string_view text) {
+  return text.size() >= 3 && text[0] >= '\xE4' && text[0] <= '\xE9' && continues_character(text[1]) &&
+         continues_character(text[2]);
+}
+
 }  // namespace
 
 // Statements are ASCII but for some values, and each average that is written goes through here as a whole: character by
@@ -41,6 +48,11 @@ std::string upper_case(std::string_view text) {
       letters[place] = static_cast<char>(c - (c >= 'a' && c <= 'z' ? 'a' - 'A' : 0));
     }
     while (!text.empty() && !is_ascii(text.front())) {
+      if (begins_with_ideograph(text)) {
+        result.append(text.substr(0, 3));
+        text.remove_prefix(3);
+        continue;
+      }
       ado::append_character(result, ado::upper_case(ado::take_character(text)));
     }
   }
