@@ -69,7 +69,7 @@ class FaultRuns : public ::testing::Test {
       }
       if (verb.prepare) verb.prepare(*object);
     }
-    if (!verb.number.empty()) automation::put(*object, "ID", verb.number);
+    if (!verb.number.empty()) automation::put(*object, published(*object, "ID") ? "ID" : "BillId", verb.number);
     automation::put(*object, "ADOConn", ado::ObjectReference(road("bill", circumstances.bill)));
     const Session session(road("session", circumstances.session));
     rehearsal->fails_at = circumstances.fails_at;
@@ -149,6 +149,7 @@ TEST_F(FaultsOfAConnection, That_is_the_bills_end_every_verb_at_its_first_statem
     SCOPED_TRACE(name_of(verb));
     const Step& first = verb.steps.front();
     if (!first.begins.starts_with("bill|")) continue;  // it begins on the session's road
+    if (!first.ends) continue;                         // what it begins with doesn't hold it up
     // A verb that gives no number of an error gives the same for all of them.
     const auto result_of = [&](Long error) { return first.result == rehearsed_number ? error : first.result; };
     const Outcome unset = outcome(verb, {.bill = Way::unset});
@@ -253,7 +254,7 @@ TEST(RehearsedDocuments, Have_every_class_with_every_verb) {
   std::set<std::string> rehearsed{"InitBrunvikVariable.InitClase_PublicVariable"};  // it sends nothing
   for (const Verb& verb : rehearsed_verbs()) rehearsed.insert(verb.class_name + "." + verb.verb);
   for (const RehearsedDocument& document : rehearsed_documents()) {
-    for (const std::string& verb : document.always_refused) rehearsed.insert(document.class_name + "." + verb);
+    for (const std::string& verb : document.unrehearsed) rehearsed.insert(document.class_name + "." + verb);
   }
   for (const automation::Class& each : automation::classes()) {
     for (const Member& member : each.create()->members()) {

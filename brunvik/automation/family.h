@@ -18,6 +18,7 @@ struct Family {
 
 Family borrowing();
 Family purchasing();
+Family repair();
 Family sales();
 Family settlement();
 Family warehouse();

@@ -53,6 +53,14 @@ Long Bill::GetNearId(const std::string& CurBillID, std::string& NearBillID, bool
   return neighbour_in_series(CurBillID, NearBillID, NextPreviousId, {});
 }
 
+Long Bill::GetPreviousId(const std::string& CurBillID, std::string& PreviousId) noexcept {
+  return neighbour_in_series(CurBillID, PreviousId, false, {});
+}
+
+Long Bill::GetNextId(const std::string& CurBillID, std::string& NextId) noexcept {
+  return neighbour_in_series(CurBillID, NextId, true, {});
+}
+
 Long Bill::LoadNext() noexcept { return load_neighbour_in_series(true, {}); }
 Long Bill::LoadPreviou() noexcept { return load_neighbour_in_series(false, {}); }
 Long Bill::GetNewId(std::string& BID) noexcept { return propose_number(BID, kind().prefix); }

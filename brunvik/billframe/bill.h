@@ -70,6 +70,10 @@ class Bill : public PublicObject {
   // The neighbour of a number of this kind in the order of the text, the next or else the previous; empty at the end.
   Long GetNearId(const std::string& CurBillID, std::string& NearBillID, bool NextPreviousId = false) noexcept;
 
+  // The same in two verbs.
+  Long GetPreviousId(const std::string& CurBillID, std::string& PreviousId) noexcept;
+  Long GetNextId(const std::string& CurBillID, std::string& NextId) noexcept;
+
   // The same for the kinds that keep several series of numbers, each with a prefix that the host gives.
   Long last_of_series(std::string& LastId, std::string_view series) noexcept;
   Long load_last_of_series(std::string_view series) noexcept;

@@ -50,7 +50,7 @@ void Document::save_rows() {
   for_each_row(rows(), [&](const PublicObject& row) { save_row(row); });
 }
 
-void Document::save_row(const PublicObject& row) { execute(form().insert_row.text(row)); }
+void Document::save_row(const PublicObject& row) { execute(form().insert_row.text(row, status::unsaved, number())); }
 
 void Document::read_header() { read_properties(execute(sql(form().statements.select_header, number()))); }
 

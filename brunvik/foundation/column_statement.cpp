@@ -39,11 +39,11 @@ std::string last_word(std::string_view text) {
 
 ColumnStatement::ColumnStatement(const Members& members, const std::vector<ColumnSource>& sources,
                                  std::string_view text, Parts (*take_apart)(std::string_view))
-    : audited_(resolved(take_apart(form_of(text, true)), members, sources)),
-      other_(resolved(take_apart(form_of(text, false)), members, sources)) {}
+    : audited_(resolved(take_apart(form_of(text, true)), members, sources, true)),
+      other_(resolved(take_apart(form_of(text, false)), members, sources, false)) {}
 
 ColumnStatement::Form ColumnStatement::resolved(Parts parts, const Members& members,
-                                                const std::vector<ColumnSource>& sources) {
+                                                const std::vector<ColumnSource>& sources, bool audited) {
   Form form;
   form.tail = std::move(parts.tail);
   for (Value& value : parts.values) {
@@ -57,6 +57,7 @@ ColumnStatement::Form ColumnStatement::resolved(Parts parts, const Members& memb
     bool listed = false;
     for (const ColumnSource& source : sources) {
       if (!ado::same_name(source.column, place.column)) continue;
+      if (audited && source.kind == ColumnSource::Kind::constant_unless_audited) continue;
       listed = true;
       place.kind = source.kind;
       place.constant = source.value;
@@ -72,7 +73,7 @@ ColumnStatement::Form ColumnStatement::resolved(Parts parts, const Members& memb
   return form;
 }
 
-std::string ColumnStatement::text(const PublicObject& object, Long status) const {
+std::string ColumnStatement::text(const PublicObject& object, Long status, std::string_view number) const {
   const Form& form = status == status::audited ? audited_ : other_;
   StatementWriter statement;
   for (const Place& place : form.places) {
@@ -82,10 +83,14 @@ std::string ColumnStatement::text(const PublicObject& object, Long status) const
         place.property->write_to(statement, object);
         break;
       case ColumnSource::Kind::constant:
+      case ColumnSource::Kind::constant_unless_audited:
         statement.add(std::int64_t{place.constant});
         break;
       case ColumnSource::Kind::argument:
         statement.add(std::int64_t{status});
+        break;
+      case ColumnSource::Kind::bill_number:
+        SqlValue(number).write_to(statement);
         break;
       case ColumnSource::Kind::worked_out: {
         const ado::Value value = place.work_out(object);

@@ -19,7 +19,7 @@ namespace brunvik {
 
 // Where a column takes its value from, where that isn't the property that the member table names for it.
 struct ColumnSource {
-  enum class Kind { constant, argument, property, worked_out };
+  enum class Kind { constant, constant_unless_audited, argument, property, worked_out, bill_number };
   using WorkOut = ado::Value (*)(const PublicObject&);
 
   std::string_view column;
@@ -41,6 +41,14 @@ constexpr ColumnSource from(std::string_view column, std::string_view property) 
   return {column, ColumnSource::Kind::property, 0, property};
 }
 
+// The constant but in the form for status 3, which has the column's own property.
+constexpr ColumnSource constant_unless_audited(std::string_view column, Long value) {
+  return {column, ColumnSource::Kind::constant_unless_audited, value};
+}
+
+// The number of the bill that writes the row, for rows that don't know it.
+constexpr ColumnSource bill_number(std::string_view column) { return {column, ColumnSource::Kind::bill_number}; }
+
 // What the document makes of the object whenever it is written.
 constexpr ColumnSource worked_out(std::string_view column, ColumnSource::WorkOut work_out) {
   return {column, ColumnSource::Kind::worked_out, 0, {}, work_out};
@@ -48,8 +56,9 @@ constexpr ColumnSource worked_out(std::string_view column, ColumnSource::WorkOut
 
 class ColumnStatement {
  public:
-  // The text for an object. `status` picks the form and is the value of a column with an argument.
-  std::string text(const PublicObject& object, Long status = 0) const;
+  // The text for an object. `status` picks the form and is the value of a column with an argument; `number` is that of
+  // the bill.
+  std::string text(const PublicObject& object, Long status = 0, std::string_view number = {}) const;
 
   // The properties that keep the columns written, but for those with a source that is no property: what an object
   // reads back of what it writes. In the form for any other status than 3.
@@ -85,7 +94,7 @@ class ColumnStatement {
     std::string tail;
   };
 
-  static Form resolved(Parts parts, const Members& members, const std::vector<ColumnSource>& sources);
+  static Form resolved(Parts parts, const Members& members, const std::vector<ColumnSource>& sources, bool audited);
 
   Form audited_;
   Form other_;

@@ -174,6 +174,11 @@ bool Member::is_kept_at(const PublicObject& object, const void* place) const {
   return place_ && place_(const_cast<PublicObject&>(object)) == place;
 }
 
+Member Member::read_only() && {
+  kind_ = MemberKind::read_only_property;
+  return std::move(*this);
+}
+
 void Member::write_to(StatementWriter& statement, const PublicObject& object) const {
   if (compute_) {
     const Value value = compute_(object);
@@ -219,7 +224,7 @@ Value Member::get(const PublicObject& object) const {
 }
 
 void Member::put(PublicObject& object, const Value& value) const {
-  if (!place_) ado::raise(ado::error::no_such_member);
+  if (!place_ || kind_ == MemberKind::read_only_property) ado::raise(ado::error::no_such_member);
   void* place = place_(object);
   if (type_ == Type::Connection) {
     *static_cast<ado::ConnectionReference*>(place) = connection_in(value);

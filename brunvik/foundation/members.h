@@ -101,6 +101,9 @@ class Member {
   // Statements write the property, and it stays as it is when a record is read.
   Member not_read() &&;
 
+  // Only the class itself fills the property: a put from outside is error 438.
+  Member read_only() &&;
+
   std::string_view name() const noexcept { return name_; }
   MemberKind kind() const noexcept { return kind_; }
   Type type() const noexcept { return type_; }

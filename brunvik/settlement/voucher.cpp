@@ -77,14 +77,6 @@ void Voucher::find_near(const std::string& current, std::string& near, bool next
   });
 }
 
-Long Voucher::GetPreviousId(const std::string& CurBillID, std::string& PreviousId) noexcept {
-  return neighbour_in_series(CurBillID, PreviousId, false, {});
-}
-
-Long Voucher::GetNextId(const std::string& CurBillID, std::string& NextId) noexcept {
-  return neighbour_in_series(CurBillID, NextId, true, {});
-}
-
 void Voucher::insert_rows(RowCollection& rows, const Insert& insert, std::string_view insert_tag) const {
   for_each_row(rows, [&](const PublicObject& row) { worker(insert_tag, [&] { execute(insert.text(row)); }); });
 }

@@ -49,9 +49,8 @@ class Voucher : public Bill {
   // Takes the settlement back and opens the bills again, also a bill that another voucher had closed.
   Long UndoAudite() noexcept;
 
-  // The neighbours of a number within the kind, empty at the end.
-  Long GetPreviousId(const std::string& CurBillID, std::string& PreviousId) noexcept;
-  Long GetNextId(const std::string& CurBillID, std::string& NextId) noexcept;
+  using Bill::GetNextId;
+  using Bill::GetPreviousId;
 
  protected:
   virtual const VoucherForm& form() const = 0;

@@ -9,13 +9,13 @@ const Rehearsed account([] {
   return RehearsedDocument{
       .class_name = "ClsZHXX",
       .verbs = {{.verb = "Delete", .steps = {ends_telling("Delete():", "bill|delete from ZHXX where ZH=")}}},
-      .always_refused = {"Add", "UpDate"}};
+      .unrehearsed = {"Add", "UpDate"}};
 });
 
 const Rehearsed movement([] {
   return RehearsedDocument{.class_name = "clsZHJYXX",
                            .verbs = {{.verb = "Delete", .steps = {ends("bill|delete from ZHJYXX where ID=")}}},
-                           .always_refused = {"Add", "UpDate"}};
+                           .unrehearsed = {"Add", "UpDate"}};
 });
 
 }  // namespace

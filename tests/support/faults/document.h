@@ -40,8 +40,8 @@ struct RehearsedDocument {
   // The statements that lay its three bills. The second has rows: two of each row set.
   std::vector<std::string> books = {};
   Verbs verbs = {};
-  // Verbs whose statement every engine refuses, so that there is nothing to rehearse.
-  std::vector<std::string> always_refused = {};
+  // Verbs with nothing to rehearse: they send nothing, or what every engine refuses.
+  std::vector<std::string> unrehearsed = {};
 
   // The number of one of its bills, counted from 1; 9 is the number of none.
   std::string number(int place) const { return prefix + "2403050000" + std::to_string(place); }

@@ -85,6 +85,8 @@ Verbs with_frame(const std::string& class_name, const std::string& prefix, const
       {.verb = "LoadNext", .steps = Steps{frame.next} + read},
       {.verb = "LoadPreviou", .steps = Steps{frame.previous} + read},
       {.verb = "GetNewId", .arguments = {""}, .steps = {next_number()}},
+      {.verb = "GetNextId", .arguments = {document.number(1), ""}, .steps = {frame.next}},
+      {.verb = "GetPreviousId", .arguments = {document.number(2), ""}, .steps = {frame.previous}},
       {.verb = "GetNearId", .arguments = {document.number(1), "", true}, .steps = {frame.next}, .remark = "forward"},
       {.verb = "GetNearId",
        .arguments = {document.number(2), "", false},

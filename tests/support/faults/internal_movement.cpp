@@ -24,18 +24,6 @@ Steps undo_both_ways() {
   return steps;
 }
 
-// What fails ends these steps alone. The verb goes on; with `result` it has the number of the failure in the end.
-Steps apart(const std::string& name, Steps steps, bool result) {
-  for (Step& step : steps) {
-    step.name = name;
-    if (!step.ends) continue;
-    step.ends = false;
-    if (!result) step.result = 0;
-    step.skips = {name};
-  }
-  return steps;
-}
-
 Frame movement_frame() {
   Frame frame = stock_frame();
   frame.rows_read = {ends("bill|select * from StockBillItems where BillId=")};

@@ -54,6 +54,17 @@ Steps undo_post_ignored() {
   return steps;
 }
 
+Steps apart(const std::string& name, Steps steps, bool result) {
+  for (Step& step : steps) {
+    step.name = name;
+    if (!step.ends) continue;
+    step.ends = false;
+    if (!result) step.result = 0;
+    step.skips = {name};
+  }
+  return steps;
+}
+
 Step header_read() { return ends("bill|select * from StockBill where Id="); }
 Step rows_read() { return ends("bill|select StockBillItems.*,warehouse.WName from StockBillItems "); }
 Step rows_removed() { return ends("bill|delete from StockBillItems where BillId="); }

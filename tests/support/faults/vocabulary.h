@@ -39,6 +39,9 @@ Steps post(const PostedRow& row);
 Steps undo_post(const std::vector<PostedRow>& rows = both_rows());
 Steps undo_post_ignored();
 
+// What fails ends these steps alone. The verb goes on; with `result` it has the number of the failure in the end.
+Steps apart(const std::string& name, Steps steps, bool result);
+
 // ----------------------------------------------------------------------------- StockBill, on the bill's own road
 
 Step header_read();

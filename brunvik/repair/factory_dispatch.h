@@ -1,0 +1,51 @@
+// Broken item sent to the factory (坏件返厂维修出库), and its opening balance (返厂送修期初). The documents that come
+// back from the factory draw on its rows.
+#pragma once
+
+#include "brunvik/repair/repair_document.h"
+#include "brunvik/repair/repair_operations.h"
+
+namespace brunvik {
+
+class FactoryDispatch : public RepairDocument {
+ public:
+  // The repairer, and who sent the goods out.
+  std::string GongYingShangBM, ChuKuRen;
+  Long Deliverymethod = 1;
+  Integer QtyStutas = 0;
+  std::string BaoXiuDate;
+
+  using RepairDocument::GetRgStockBillitems;
+
+  const Members& members() const override { return table(); }
+
+ protected:
+  using RepairDocument::RepairDocument;
+
+  static const Members& table();
+  static DocumentForm dispatch_form(const Kind& kind);
+};
+
+class clsRGStockFcwx final : public FactoryDispatch {
+ public:
+  clsRGStockFcwx() : FactoryDispatch(kind::clsRGStockFcwx) {}
+
+  const Kind& kind() const override { return kind::clsRGStockFcwx; }
+
+ protected:
+  const DocumentForm& form() const override;
+  Operations stock_operations() const override { return {&operation::FactoryOut, 1}; }
+};
+
+// What lay at the factory when the books were opened: it never touches the stock.
+class clsRGStockFcwxBjkc final : public FactoryDispatch {
+ public:
+  clsRGStockFcwxBjkc() : FactoryDispatch(kind::clsRGStockFcwxBjkc) {}
+
+  const Kind& kind() const override { return kind::clsRGStockFcwxBjkc; }
+
+ protected:
+  const DocumentForm& form() const override;
+};
+
+}  // namespace brunvik

@@ -1,0 +1,176 @@
+#include "brunvik/repair/repair_intake.h"
+
+#include <array>
+#include <utility>
+
+#include "brunvik/foundation/SqlOPT_Function.h"
+#include "brunvik/foundation/error_trap.h"
+#include "brunvik/foundation/late_binding.h"
+
+namespace brunvik {
+
+namespace {
+
+const Insert& link_insert() {
+  static const Insert insert(
+      RGBxrkSaleInList::table(), {},
+      "insert into RGStockBillList(RGBxrkId,StockId,RGStockType,StockType,RGStockRowNum,StockRowNum,Goodsid,unit,"
+      "GoodStutas,Qty) values(");
+  return insert;
+}
+
+// A link that doesn't name kinds or rows points to the first.
+void read_first_where_null(RGBxrkSaleInList& link, const ado::Recordset& set) {
+  const std::array<std::pair<const char*, Long*>, 4> fields{{{"RGStockRowNum", &link.RgstockRownum},
+                                                             {"RGStockType", &link.RGStocktype},
+                                                             {"StockRowNum", &link.StockRownum},
+                                                             {"StockType", &link.Stocktype}}};
+  for (const auto& [column, field] : fields) {
+    if (set.value(column).is_null()) *field = 1;
+  }
+}
+
+double in_base_units(const RGBxrkSaleInList& link) {
+  return GoodsUnitConverter(link.GoodsId, link.Unit).to_double() * static_cast<double>(link.Qty);
+}
+
+Single quantity(const ado::Recordset& set, std::string_view column) {
+  const Value& field = set.value(column);
+  return field.is_null() ? 0 : field.as_single();
+}
+
+}  // namespace
+
+Members RepairIntake::intake_members(MemberGroup behind_connection, MemberGroup verbs) {
+  using C = RepairIntake;
+  MemberGroup own_verbs{verb<&C::GetRgStockBillitems>("GetRgStockBillitems", in("cBillid"))};
+  own_verbs.insert(own_verbs.end(), verbs.begin(), verbs.end());
+  return repair_members({
+      .behind_connection = std::move(behind_connection),
+      .behind_kind = {property<&C::CustomerBH>("CustomerBH", "Supplier"), property<&C::Fixtype>("Fixtype", "FixType"),
+                      property<&C::Needdays>("Needdays", "NeedDays"), property<&C::QtyStutas>("QtyStutas", "QtyStutas"),
+                      property<&C::RuKuRen>("RuKuRen", "RManager"), property<&C::JingBanRen>("JingBanRen", "Salesman")},
+      .behind_creation = {property<&C::BaoXiuDate>("BaoXiuDate", "BaoXiuDate")},
+      .verbs = std::move(own_verbs),
+  });
+}
+
+DocumentForm RepairIntake::intake_form(const Kind& kind, const Members& members, std::string_view own_columns) {
+  return repair_form(
+      kind, members,
+      {.insert = "insert into RGStockBill(Id,ManualId,Supplier,ProcessFlag,Salesman,RManager,FixType,NeedDays,"
+                 "InOutFlag,Status,Creator,CreateTime,Summary,Remarks,[Auditor,AuditTime,]QtyStutas,BaoXiuDate) "
+                 "values(",
+       // The person in charge of an opening balance can't be changed once it is stored.
+       .update = "Update RGStockBill set ManualId = ,Supplier = ,ProcessFlag = ,<Salesman = ,>RManager = ,FixType = ,"
+                 "NeedDays = ,Status = ,Summary = ,Remarks = ,[Auditor = ,AuditTime = ,]BaoXiuDate =  where Id=",
+       .insert_row = "Insert into RGStockBillItems(BillId,RowNum,GId,GName,GBarcode,Class,Model1,Model2,unit,qty,price,"
+                     "Amount,StoreHouse,BrokenDspt,FixMeans,OutFactoryDate,EquipCode,BuyDate,Accessory,remarks,YfQty" +
+                     std::string(own_columns) + ") values( ",
+       .reads_rows_in_order = !kind.opening});
+}
+
+const Members& clsRGStockBxrk::members() const {
+  using C = clsRGStockBxrk;
+  static const Members table =
+      intake_members({collection<&C::colSaleInItems>("colSaleInItems")},
+                     {
+                         verb<&C::GetRGBxrkSaleInBillItems>("GetRGBxrkSaleInBillItems", in("RGBxrkId"), in("SaleInId")),
+                         verb<&C::AddRGBxrkSaleInQty>("AddRGBxrkSaleInQty", in("objBillItems")),
+                         verb<&C::ReduceRGBxrkSaleInQty>("ReduceRGBxrkSaleInQty", in("objBillItems")),
+                         verb<&C::DeteleRGBxrkSaleInList>("DeteleRGBxrkSaleInList", in("SaleInId")),
+                         verb<&C::SetRGBxrkSaleInClosedTag>("SetRGBxrkSaleInClosedTag", in("BillId")),
+                         verb<&C::UndoSetRGBxrkSaleInClosedTag>("UndoSetRGBxrkSaleInClosedTag", in("BillId")),
+                         verb<&C::ExitReturnGoods>("ExitReturnGoods", in("BillId")),
+                         verb<&C::SaveRGBxrkSaleInLists>("SaveRGBxrkSaleInLists", in("RGBxrkSaleInLists")),
+                     });
+  return table;
+}
+
+const Members& clsRGStockBxrkBjkc::members() const {
+  static const Members table = intake_members();
+  return table;
+}
+
+const Members& clsRGStockWxdh::members() const {
+  static const Members table = intake_members();
+  return table;
+}
+
+const DocumentForm& clsRGStockBxrk::form() const {
+  static const DocumentForm form = intake_form(kind(), members());
+  return form;
+}
+
+const DocumentForm& clsRGStockBxrkBjkc::form() const {
+  static const DocumentForm form = intake_form(kind(), members());
+  return form;
+}
+
+const DocumentForm& clsRGStockWxdh::form() const {
+  static const DocumentForm form = intake_form(kind(), members(), ",OutHouse");
+  return form;
+}
+
+Long clsRGStockBxrk::GetRGBxrkSaleInBillItems(const std::string& RGBxrkId, const std::string& SaleInId) noexcept {
+  return trap([&] {
+    brunvik::read_rows<RGBxrkSaleInList>(
+        colSaleInItems,
+        execute(sql("select * from RGStockBillList where RGBxrkId={} and StockId={} and StockType={} order by "
+                    "StockRowNum",
+                    RGBxrkId, SaleInId, bill_type::sales_return)),
+        link_insert().members_written(), read_first_where_null);
+  });
+}
+
+Long clsRGStockBxrk::AddRGBxrkSaleInQty(const RGBxrkSaleInList& objBillItems) noexcept {
+  return trap([&] {
+    execute(sql("update RGStockBillItems set yfQty=yfQty+{} where BillId={} and RowNum={} and FixMeans={} and GId={}",
+                in_base_units(objBillItems), objBillItems.RGBxrkId, objBillItems.RgstockRownum, objBillItems.Goodstutas,
+                objBillItems.GoodsId));
+  });
+}
+
+Long clsRGStockBxrk::ReduceRGBxrkSaleInQty(const RGBxrkSaleInList& objBillItems) noexcept {
+  return trap([&] {
+    execute(sql("update RGStockBillItems set yfQty=yfQty-{} where BillId={} and RowNum={} and FixMeans={} and GID={}",
+                in_base_units(objBillItems), objBillItems.RGBxrkId, objBillItems.RgstockRownum, objBillItems.Goodstutas,
+                objBillItems.GoodsId));
+  });
+}
+
+Long clsRGStockBxrk::DeteleRGBxrkSaleInList(const std::string& SaleInId) noexcept {
+  return trap([&] { execute(sql("delete from RGStockBillList where StockId={}", SaleInId)); });
+}
+
+Long clsRGStockBxrk::SetRGBxrkSaleInClosedTag(const std::string& BillId) noexcept {
+  return trap([&] {
+    auto rows = execute(sql("select * from RGStockBillItems where BillId={}", BillId));
+    for (; !rows.at_end(); rows.MoveNext()) {
+      if (quantity(rows, "Qty") > quantity(rows, "YfQty")) throw Stop{1};
+    }
+    execute(sql("update RGStockBill set QtyStutas=1 where Id={}", BillId));
+  });
+}
+
+Long clsRGStockBxrk::UndoSetRGBxrkSaleInClosedTag(const std::string& BillId) noexcept {
+  return trap([&] { execute(sql("update RGStockBill set QtyStutas=0 where Id={}", BillId)); });
+}
+
+Long clsRGStockBxrk::ExitReturnGoods(const std::string& BillId) noexcept {
+  return trap([&] {
+    auto rows = execute(sql("select * from RGStockBillItems where BillId={}", BillId));
+    for (; !rows.at_end(); rows.MoveNext()) {
+      if (quantity(rows, "YfQty") > 0) return;
+    }
+    throw Stop{1};
+  });
+}
+
+Long clsRGStockBxrk::SaveRGBxrkSaleInLists(const Collection<RGBxrkSaleInList>& RGBxrkSaleInLists) noexcept {
+  return trap([&] {
+    for (const RGBxrkSaleInList& link : RGBxrkSaleInLists) execute(link_insert().text(link));
+  });
+}
+
+}  // namespace brunvik
