@@ -14,7 +14,7 @@ namespace brunvik::automation {
 
 namespace {
 
-constexpr std::array families{purchasing, sales, warehouse, settlement, borrowing, repair};
+constexpr std::array families{purchasing, sales, warehouse, settlement, repair, service, borrowing, logistics};
 
 template <class Named>
 const Named& named(std::span<const Named> all, std::string_view name, Long error) {

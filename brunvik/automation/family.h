@@ -17,9 +17,11 @@ struct Family {
 };
 
 Family borrowing();
+Family logistics();
 Family purchasing();
 Family repair();
 Family sales();
+Family service();
 Family settlement();
 Family warehouse();
 

@@ -1,13 +1,8 @@
 #include "brunvik/billframe/bill.h"
 
-#include <array>
-#include <cstdio>
-
-#include "brunvik/ado/clock.h"
-#include "brunvik/foundation/GetValue_Function.h"
+#include "brunvik/billframe/bill_number.h"
 #include "brunvik/foundation/error_trap.h"
 #include "brunvik/foundation/member_columns.h"
-#include "brunvik/foundation/sql_text.h"
 
 namespace brunvik {
 
@@ -96,10 +91,7 @@ Long Bill::load_neighbour_in_series(bool next, std::string_view series) noexcept
 }
 
 std::string proposed_number(std::string_view table, std::string_view prefix) {
-  const Long number = Get_BillMaxId(table, "ID", sql(" where ID like '{raw}%' ", prefix), std::string_view());
-  std::array<char, 16> running{};
-  std::snprintf(running.data(), running.size(), "%05d", number);
-  return std::string(prefix) + ado::bill_day_text(ado::now()) + running.data();
+  return proposed_number(table, "ID", prefix);
 }
 
 Long Bill::propose_number(std::string& BID, std::string_view prefix) noexcept {
@@ -113,8 +105,6 @@ void Bill::read_properties(const ado::Recordset& set) {
   MemberColumns::for_each(members(), set, [&](const Member& member, const Value& field) { member.read(*this, field); });
 }
 
-std::string Bill::aggregated_id(const ado::Recordset& set) {
-  return set.at_end() ? std::string() : set.value("Id").joined_text();
-}
+std::string Bill::aggregated_id(const ado::Recordset& set) { return aggregated_number(set, "Id"); }
 
 }  // namespace brunvik

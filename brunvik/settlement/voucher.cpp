@@ -3,10 +3,9 @@
 #include <array>
 #include <utility>
 
-#include "brunvik/foundation/Declare_Const.h"
-#include "brunvik/foundation/GetValue_Function.h"
 #include "brunvik/foundation/error_trap.h"
 #include "brunvik/foundation/sql_text.h"
+#include "brunvik/settlement/voucher_status.h"
 
 namespace brunvik {
 
@@ -33,9 +32,7 @@ void Voucher::save_header(Saving saving) {
   worker(draft ? form().save_draft_tag : form().save_tag, [&] {
     if (ID.empty()) throw Stop{result_without_id};
     const bool stored = !execute(sql("select * from {raw} where Id={}", kind().header_table(), ID)).at_end();
-    Long status = status::draft;
-    // Without the audit of accounts a voucher is born audited, though it has settled nothing: only Audite settles.
-    if (!draft) status = GetKeyValue(config::audit_of_accounts) == "1" ? status::saved : status::audited;
+    const Long status = draft ? status::draft : status_of_saved_voucher();
     if (stored) {
       worker(" UpdatePayBill(): ", [&] {
         before_update();
