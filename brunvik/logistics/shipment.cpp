@@ -159,7 +159,7 @@ Long clsSendGoodsBill::UpdateItems() noexcept {
 void clsSendGoodsBill::take_marks_off(Marks marks) const {
   auto bills = execute(sql("select  * from SendBillItems where billid= {}", ID));
   for (; !bills.at_end(); bills.MoveNext()) {
-    const Value held = bills.value("Djbj");
+    const Value& held = bills.value("Djbj");
     if (marks == Marks::of_free_bills && !held.is_null() && held.as_long() > 0) continue;
     take_mark_off(bills.value("BID").joined_text());
   }

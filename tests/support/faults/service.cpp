@@ -13,10 +13,12 @@ Step told(const std::string& verb, const std::string& begins) {
 // Three tickets at a stage, with these columns beside.
 std::vector<std::string> tickets(const RehearsedDocument& document, int stage, const std::string& columns,
                                  const std::string& values) {
+  const std::string begin = "insert into AfterServiceBill(BillId,ProcessFlag" + columns + ") values(";
+  const std::string rest = "," + std::to_string(stage) + values + ")";
   std::vector<std::string> statements;
   for (int place = 1; place <= 3; ++place) {
-    statements.push_back("insert into AfterServiceBill(BillId,ProcessFlag" + columns + ") values(" +
-                         quoted(document.number(place)) + "," + std::to_string(stage) + values + ")");
+    std::string& statement = statements.emplace_back(begin);
+    statement.append(quoted(document.number(place))).append(rest);
   }
   return statements;
 }
