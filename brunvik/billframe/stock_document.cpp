@@ -55,14 +55,13 @@ void StockDocument::mark(Long status) {
 
 void StockDocument::mark_if_stored_otherwise(Long status) {
   if (ID.empty()) throw Stop{result_without_id};
-  const auto stored = execute(sql("select * from StockBill where Id={}", ID));
+  const auto stored = execute(sql(form().statements.select_header, ID));
   const bool to_audit = status == status::audited;
   if (stored.at_end() || (stored.value("Status").as_long() == status::audited) == to_audit) {
     ID.clear();
     return;
   }
-  execute(
-      sql("update stockbill set Status = {},Auditor = {},AuditTime = {} where Id={}", status, Auditor, Audittime, ID));
+  execute(sql(mark_statement(), status, Auditor, Audittime, ID));
 }
 
 }  // namespace brunvik

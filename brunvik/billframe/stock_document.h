@@ -29,6 +29,11 @@ class StockDocument : public Document {
   // and writes nothing where there is no such bill, where an audit finds it audited, and where an undo finds it not;
   // -1 ends the verb where ID is empty already.
   void mark_if_stored_otherwise(Long status);
+
+  // The statement that writes this mark: status, auditor, time, number.
+  virtual StatementText<4> mark_statement() const {
+    return "update stockbill set Status = {},Auditor = {},AuditTime = {} where Id={}";
+  }
 };
 
 }  // namespace brunvik

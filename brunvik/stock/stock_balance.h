@@ -1,6 +1,7 @@
 // A balance of the stock as it is laid: one row of Inventory for a warehouse, goods with their models, and a state.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -15,9 +16,11 @@ struct StockBalance {
   // The unit of the quantities.
   std::string_view unit;
   Single in = 0, out = 0;
+  // What is on hand, where that isn't what came in less what went out.
+  std::optional<Single> on_hand = {};
 };
 
-// The statement that lays it, without a remark; what is on hand is what came in less what went out.
+// The statement that lays it, without a remark.
 std::string insert_balance(const StockBalance& balance);
 
 }  // namespace brunvik

@@ -21,7 +21,7 @@ const DocumentForm& clsTZBill::form() const {
       kind(), members(), "Rmanager", WarehouseColumn::Receiver,
       "insert into StockBillItems(BillId,RowNum,GId,GBarcode,GName,Class,Model1,Model2,unit,qty,ActualQty,price,Amount,"
       "Receiver,Equipcode,remarks) values(",
-      {});
+      {actual_as_asked});
   return form;
 }
 

@@ -6,23 +6,7 @@ namespace brunvik {
 
 const Members& clsDbBill::members() const {
   using C = clsDbBill;
-  static const Members table = [] {
-    MemberGroup verbs{
-        verb<&C::Save>("Save"),
-        verb<&C::SaveAsDraft>("SaveAsDraft"),
-        verb<&C::GetNewId>("GetNewId", out("BID")),
-        verb<&C::LoadById>("LoadById", in_out("BID")),
-        verb<&C::Delete>("Delete"),
-        verb<&C::UpdateAudited>("UpdateAudited"),
-        verb<&C::CancelAudited>("CancelAudited"),
-        verb<&C::GetDbBillItems>("GetDbBillItems"),
-    };
-    for (Member& each : walk<C>()) verbs.push_back(std::move(each));
-    return movement_members<C>(
-        {property<&C::Supplier>("Supplier", "Supplier"), property<&C::Receiver>("Receiver", "Receiver"),
-         property<&C::SManager>("SManager", "SManager"), property<&C::RManager>("RManager", "RManager")},
-        std::move(verbs));
-  }();
+  static const Members table = transfer_members<C>({verb<&C::GetDbBillItems>("GetDbBillItems")});
   return table;
 }
 

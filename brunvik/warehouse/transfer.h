@@ -3,18 +3,44 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 #include "brunvik/warehouse/internal_movement.h"
 
 namespace brunvik {
 
-class clsDbBill final : public InternalMovement {
+// What the transfers share, of sound goods and of others: the two ends of the header, and the verbs.
+class WarehouseTransfer : public InternalMovement {
  public:
-  // The warehouse that gives and the one that takes; the stock goes by those of each row.
+  // The warehouse that gives and the one that takes.
   std::string Supplier, Receiver;
   // The person at either end.
   std::string SManager, RManager;
 
+ protected:
+  template <class C>
+  static Members transfer_members(MemberGroup behind_audit = {}) {
+    MemberGroup verbs{
+        verb<&C::Save>("Save"),
+        verb<&C::SaveAsDraft>("SaveAsDraft"),
+        verb<&C::GetNewId>("GetNewId", out("BID")),
+        verb<&C::LoadById>("LoadById", in_out("BID")),
+        verb<&C::Delete>("Delete"),
+        verb<&C::UpdateAudited>("UpdateAudited"),
+        verb<&C::CancelAudited>("CancelAudited"),
+    };
+    for (Member& each : behind_audit) verbs.push_back(std::move(each));
+    for (Member& each : walk<C>()) verbs.push_back(std::move(each));
+    return movement_members<C>(
+        {property<&C::Supplier>("Supplier", "Supplier"), property<&C::Receiver>("Receiver", "Receiver"),
+         property<&C::SManager>("SManager", "SManager"), property<&C::RManager>("RManager", "RManager")},
+        std::move(verbs));
+  }
+};
+
+// The stock goes by the warehouses of each row, not by those of the header.
+class clsDbBill final : public WarehouseTransfer {
+ public:
   // Audits the stored transfer with the rows that the object holds, from the last to the first: each gets its cost and
   // is posted, out of its Supplier, then into its Receiver. A row that can't be posted doesn't keep the others from it:
   // the result is that of the first row, which comes last. The bill's cost is written at the end. -1 with an empty ID.

@@ -4,9 +4,8 @@ namespace brunvik {
 
 DocumentForm WarehouseDocument::warehouse_form(const Kind& kind, const Members& members, std::string_view person_column,
                                                WarehouseColumn warehouse, std::string_view insert_row,
-                                               std::vector<ColumnSource> row_sources) {
+                                               const std::vector<ColumnSource>& row_sources) {
   const std::string person(person_column);
-  row_sources.push_back(from("ActualQty", "Qty"));
   return stock_form(
       kind, members, warehouse,
       "insert into StockBill(Id,ManualId," + person +

@@ -11,11 +11,14 @@ namespace brunvik {
 
 class WarehouseDocument : public PostingDocument {
  protected:
-  // The header's statements around the column of the responsible person, and the document's row statement. ActualQty is
-  // written from the row's Qty: on these documents the two are the same.
+  // ActualQty is written from the row's Qty: on most of these documents the two are the same.
+  static constexpr ColumnSource actual_as_asked = from("ActualQty", "Qty");
+
+  // The header's statements around the column of the responsible person, and the document's row statement.
   static DocumentForm warehouse_form(const Kind& kind, const Members& members, std::string_view person_column,
                                      WarehouseColumn warehouse, std::string_view insert_row,
-                                     std::vector<ColumnSource> row_sources = {constant("GoodStutas", 0)});
+                                     const std::vector<ColumnSource>& row_sources = {actual_as_asked,
+                                                                                     constant("GoodStutas", 0)});
 };
 
 }  // namespace brunvik

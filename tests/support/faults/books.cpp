@@ -10,6 +10,8 @@ std::vector<std::string> fault_books() {
   std::vector<std::string> statements{
       "insert into BasicConfig(keyname,keyvalue) values('启用帐款审核','1')",
       "insert into BasicConfig(keyname,keyvalue) values('启用坏件审核','0')",
+      "insert into BasicConfig(keyname,keyvalue) values('启用进销审核','1')",
+      "insert into BasicConfig(keyname,keyvalue) values('启用仓库业务审核','0')",
       "insert into Warehouse(id,WName) values('W1','主仓')",
       "insert into goods(id,Class,Model1,Model2,Unit,AverageCost) values('G1','五金','M6','','个',10)",
       "insert into goods(id,Class,Model1,Model2,Unit,AverageCost) values('G2','五金','M8','','只',2)",

@@ -2,6 +2,7 @@
 #include "brunvik/automation/automation.h"
 #include "tests/support/faults/books.h"
 #include "tests/support/faults/frame.h"
+#include "tests/support/faults/vocabulary.h"
 #include "tests/support/faults/voucher.h"
 
 namespace brunvik::test {
@@ -20,14 +21,6 @@ Step told(const std::string& tag, const std::string& begins) {
 }
 
 Step header_read(const std::string& tag) { return told(tag, "bill|select * from OthersIEBill where Id="); }
-
-// The setting is taken as a truth value: what can't be read is none, and nothing is written.
-Step setting() {
-  return {.begins = "session|select * from BasicConfig where keyname='启用帐款审核'",
-          .notice = "错误信息|GetKeyValue():",
-          .further_notice = "提示信息| SaveOthersIEBill(): 类型不匹配",
-          .result = 13};
-}
 
 Frame frame() {
   Frame frame = frame_over("OthersIEBill", "OthersIEBillItems");
@@ -64,7 +57,7 @@ RehearsedDocument other_money(const std::string& class_name, const AuditTags& ta
     const std::string verb = draft ? "SaveAsDraft" : "Save";
     const Frame shared = frame();
     Steps looked_up{header_read(draft ? " SaveOthersIEBillForSketch(): " : " SaveOthersIEBill(): ")};
-    if (!draft) looked_up.push_back(setting());
+    if (!draft) looked_up.push_back(truth_setting("启用帐款审核", " SaveOthersIEBill(): "));
     own.push_back({.verb = verb,
                    .steps = looked_up + Steps{shared.header_added} + shared.rows_added,
                    .remark = "for_the_first_time",

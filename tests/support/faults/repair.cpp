@@ -27,12 +27,6 @@ struct Repair {
 std::string row_name(std::size_t row) { return "row " + std::to_string(row + 1); }
 std::string mark_name(std::size_t row) { return "mark " + std::to_string(row + 1); }
 
-Step setting(const std::string& key, std::vector<std::string> skips = {}) {
-  Step step = goes_on("", "session|select * from BasicConfig where keyname='" + key + "'", std::move(skips));
-  step.notice = "错误信息|GetKeyValue():";
-  return step;
-}
-
 // What is kept of the row drawn on, and of its document.
 Steps linked(std::size_t row, bool posted) {
   const std::string tag = posted ? " updataYfQty(): " : " updataUndoYfQty(): ";

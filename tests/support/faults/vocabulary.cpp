@@ -25,6 +25,18 @@ Step row_cost() { return goes_on("UpdateBillItemCost():", "session|Update StockB
 
 Step bill_cost() { return goes_on("UpdateBillCost():", "session|Update StockBill set BillCost="); }
 
+Step setting(const std::string& key, std::vector<std::string> skips) {
+  Step step = goes_on("", "session|select * from BasicConfig where keyname='" + key + "'", std::move(skips));
+  step.notice = "错误信息|GetKeyValue():";
+  return step;
+}
+
+Step truth_setting(const std::string& key, const std::string& tag) {
+  Step step = ending_with(13, setting(key));
+  if (!tag.empty()) step.further_notice = "提示信息|" + tag + "类型不匹配";
+  return step;
+}
+
 Step next_number() { return goes_on("Get_BillMaxId():", "session|select max(ID)  from "); }
 
 Steps base_quantity(const PostedRow& row) {

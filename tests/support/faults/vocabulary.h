@@ -29,6 +29,11 @@ Step row_cost();
 Step bill_cost();
 Step next_number();
 
+// A setting is read as text: one that can't be read is empty. And as a truth value: one that can't be read is none, and
+// ends the verb.
+Step setting(const std::string& key, std::vector<std::string> skips = {});
+Step truth_setting(const std::string& key, const std::string& tag);
+
 // The quantity of a row in the goods' own unit. Without the factor of that unit it can't be worked out: division by 0.
 Steps base_quantity(const PostedRow& row);
 

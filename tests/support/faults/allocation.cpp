@@ -1,0 +1,99 @@
+// Transfer of broken and of repaired goods.
+#include "brunvik/automation/automation.h"
+#include "tests/support/faults/books.h"
+#include "tests/support/faults/frame.h"
+#include "tests/support/faults/vocabulary.h"
+
+namespace brunvik::test {
+
+namespace {
+
+// Neither warehouse has a balance of broken or of repaired goods.
+Steps posted(PostedRow row) {
+  row.has_balance = false;
+  return post(row) + post(row);
+}
+
+Steps taken_back(const PostedRow& row) {
+  const Steps way = base_quantity(row) + Steps{ends("session|update Inventory set ")};
+  return way + way;
+}
+
+// From the last row of the object to the first.
+Steps broken_taken_back() { return taken_back(both_rows()[1]) + taken_back(both_rows()[0]); }
+
+// By what is stored.
+Steps repaired_taken_back() {
+  return Steps{ends("session|select * from RGStockBill where Id="),
+               ends("session|select * from RGStockBillItems where BillId=")} +
+         taken_back(both_rows()[0]) + taken_back(both_rows()[1]);
+}
+
+Frame frame() {
+  Frame frame = frame_over("RGStockBill", "RGStockBillItems");
+  const Step row_added = ends_telling(" AddDbBillItems(): ", "bill|insert into RgStockBillItems(");
+  frame.header_updated = ends_telling(" UpdateDbBill(): ", "bill|update RGstockbill set ManualId = ");
+  frame.header_removed = ends_telling(" DeleteDbBillAndItems(): ", "bill|delete from RGstockbill where Id=");
+  frame.rows_read = {ends("bill|select * from RGStockBillItems where BillId=")};
+  frame.rows_added = {row_added, row_added};
+  frame.last = ends("bill|select Max(Id) as Id from RGstockbill where processflag=");
+  frame.next = ends("bill|select Min(Id) as Id from RgStockBill where id > ");
+  return frame;
+}
+
+std::vector<std::string> bills(const RehearsedDocument& document, Long code) {
+  std::vector<std::string> statements;
+  for (int place = 1; place <= 3; ++place) {
+    statements.push_back("insert into RGStockBill(Id,ProcessFlag,Status,Supplier,Receiver) values(" +
+                         quoted(document.number(place)) + "," + std::to_string(code) + ",2,'W1','W2')");
+  }
+  const std::string row =
+      "insert into RGStockBillItems(BillId,RowNum,GId,Class,Model1,Model2,unit,qty) values(" + quoted(document.bill());
+  statements.push_back(row + ",1,'G1','五金','M6','','箱',2)");
+  statements.push_back(row + ",2,'G2','五金','M8','','盒',3)");
+  return statements;
+}
+
+RehearsedDocument allocation(const std::string& class_name, const Steps& undo) {
+  const Kind& kind = *automation::class_named(class_name).kind;
+  RehearsedDocument document{.class_name = class_name, .prefix = std::string(kind.prefix)};
+  document.books = bills(document, *kind.code);
+  const Frame shared = frame();
+  Steps rows;
+  for (std::size_t row = 0; row < both_rows().size(); ++row) {
+    const std::string name = "row " + std::to_string(row + 1);
+    rows.push_back(setting("启用坏件审核", {name}));
+    for (const Step& step : posted(both_rows()[row])) rows.push_back(named(name, step));
+    rows.push_back(shared.rows_added[row]);
+  }
+  Verbs own;
+  for (const bool draft : {false, true}) {
+    const std::string verb = draft ? "SaveAsDraft" : "Save";
+    Steps looked_up{shared.header_sought};
+    if (!draft) looked_up.push_back(truth_setting("启用进销审核", ""));
+    own.push_back({.verb = verb,
+                   .steps = looked_up + Steps{shared.header_added} + rows,
+                   .remark = "for_the_first_time",
+                   .number = document.number(9)});
+    own.push_back({.verb = verb,
+                   .steps = looked_up + shared.rows_removed + Steps{shared.header_updated} + rows,
+                   .remark = "again"});
+  }
+  const std::string tag = " UpdateDbBillAudited(): ";
+  own.push_back({.verb = "UpdateAudited",
+                 .steps = Steps{ends_telling(tag, shared.header_read.begins),
+                                ends_telling(tag, "bill|update RGstockbill set Status = 3")} +
+                          posted(both_rows()[0]) + posted(both_rows()[1])});
+  own.push_back({.verb = "CancelAudited",
+                 .steps = Steps{shared.header_read, ends("bill|update RGstockbill set Status = 2")} + undo,
+                 .before = {"update RGStockBill set Status=3 where Id=" + quoted(document.bill())}});
+  document.verbs = with_frame(class_name, document.prefix, shared, std::move(own));
+  return document;
+}
+
+const Rehearsed broken([] { return allocation("clsBrokenAllocate", broken_taken_back()); });
+const Rehearsed repaired([] { return allocation("clsRestoreAllocate", repaired_taken_back()); });
+
+}  // namespace
+
+}  // namespace brunvik::test
