@@ -92,7 +92,7 @@ extern const Kind clsAfterServiceBillInfo;
 extern const Kind clsAfterServiceBillInfoOLD;
 extern const Kind clsAfterServiceWGBill;
 
-// Every kind, also those whose class isn't built yet.
+// Every kind.
 std::span<const Kind* const> all() noexcept;
 
 }  // namespace kind
