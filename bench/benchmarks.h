@@ -23,4 +23,7 @@ void register_counts();
 // The same verbs at a thousand and at a million bills.
 void register_growth();
 
+// The verbs of the other families, each with a thousand and with a million bills in its tables.
+void register_family_growth();
+
 }  // namespace brunvik::bench

@@ -135,9 +135,9 @@ std::unique_ptr<PlainSqlite> open_plain_copy(const Folder& folder, const std::st
   return plain;
 }
 
-void start_session(const ado::ConnectionReference& connection) {
+void start_session(const ado::ConnectionReference& connection, std::string_view dialect) {
   InitBrunvikVariable start;
-  start.DATAType = sql_server_dialect;
+  start.DATAType = dialect;
   start.OperatorId = "u1";
   start.ADOConn = connection;
   start.InitClase_PublicVariable();

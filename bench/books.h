@@ -8,6 +8,7 @@
 
 #include "bench/plain_sqlite.h"
 #include "brunvik/ado/connection.h"
+#include "brunvik/foundation/Brunvik_Variable.h"
 #include "drivers/sqlite/connection.h"
 
 namespace brunvik::bench {
@@ -49,6 +50,6 @@ std::shared_ptr<sqlite::Connection> open_copy(const Folder& folder, const std::s
 std::unique_ptr<PlainSqlite> open_plain_copy(const Folder& folder, const std::string& books, const Place& place);
 
 // Begins a session on a connection, in the place of the one before.
-void start_session(const ado::ConnectionReference& connection);
+void start_session(const ado::ConnectionReference& connection, std::string_view dialect = sql_server_dialect);
 
 }  // namespace brunvik::bench

@@ -18,6 +18,7 @@ int main(int count, char** arguments) try {
   bench::register_driver();
   bench::register_counts();
   bench::register_growth();
+  bench::register_family_growth();
   benchmark::RunSpecifiedBenchmarks();
   return 0;
 } catch (const std::exception& failure) {

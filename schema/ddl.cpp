@@ -103,7 +103,12 @@ IndexParts parts_of(std::string_view index) {
 
 // By the columns alone: an older index over all rows answers whatever one over some of them does.
 std::string index_name(const Table& table, std::string_view index) {
-  return std::string(table.name) + "_" + replaced(parts_of(index).columns, ", ", "_");
+  std::string name = std::string(table.name) + "_" + replaced(parts_of(index).columns, ", ", "_");
+  // Of an expression its words.
+  std::erase(name, ')');
+  std::ranges::replace_if(
+      name, [](char c) { return c == '(' || c == ' '; }, '_');
+  return name;
 }
 
 std::string create_index(const Table& table, std::string_view index) {

@@ -30,7 +30,8 @@ struct Table {
   std::string_view name;
   std::span<const Column> columns;
   std::string_view key = {};  // the key column; empty: none
-  // The columns of one index each, separated by ", "; behind " where " the condition of the rows that stand in it.
+  // The columns or expressions of one index each, separated by ", "; behind " where " the condition of the rows that
+  // stand in it.
   std::span<const std::string_view> indexes = {};
 };
 

@@ -36,7 +36,13 @@ constexpr Column journal[] = {
     {"XM", Text},
     {"SFKR", Text},
 };
-constexpr std::string_view journal_indexes[] = {"DYDJH"};
+// The next key is one more than the highest, as a number. The last holds the keys that aren't plain numbers: none, as
+// long as nobody enters one by hand.
+constexpr std::string_view journal_indexes[] = {
+    "DYDJH",
+    "CAST(ID AS INTEGER)",
+    "ID where length(ID) NOT BETWEEN 1 AND 9 OR ID GLOB '*[^0-9]*'",
+};
 
 // Vouchers and advances are told apart by their table and their type, and have the same columns.
 constexpr Column voucher[] = {

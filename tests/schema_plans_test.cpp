@@ -166,6 +166,20 @@ TEST(SchemaPlans, The_driver_finds_the_rows_without_a_cost_in_the_index_that_hol
             "SEARCH StockBillItems USING INDEX StockBillItems_GId_Cost (GId=? AND Cost=?)");
 }
 
+TEST(SchemaPlans, The_driver_finds_the_next_key_of_the_journal_without_reading_it) {
+  const auto books = sqlite::open(":memory:");
+  for (const std::string& statement : schema::statements(schema::Engine::sqlite)) books->Execute(statement);
+  for (const char* number : {"convert(int,id)", "clng(id)"}) {
+    std::string plan;
+    ado::Recordset set =
+        books->Execute("explain query plan select max(" + std::string(number) + ") as ls_bm from ZHJYXX");
+    for (; !set.at_end(); set.MoveNext()) plan += set.value("detail").as_text() + "\n";
+    EXPECT_NE(plan.find("SCAN ZHJYXX USING COVERING INDEX ZHJYXX_ID\n"), std::string::npos) << plan;
+    EXPECT_NE(plan.find("SCAN ZHJYXX USING INDEX ZHJYXX_CAST_ID_AS_INTEGER\n"), std::string::npos) << plan;
+    EXPECT_EQ(plan.find("TEMP B-TREE"), std::string::npos) << plan;
+  }
+}
+
 TEST(SchemaPlans, A_row_stands_in_the_index_of_the_zero_costs_until_it_has_a_cost) {
   Database database = laid();
   const std::string definition =

@@ -48,6 +48,26 @@ TEST_F(SqliteDialects, The_highest_number_of_a_ledger_is_found_in_an_index_on_th
   }
 }
 
+TEST_F(SqliteDialects, An_index_on_the_numbers_changes_no_answer) {
+  run("create index ZHXX_number on ZHXX (CAST(ID AS INTEGER))");
+  const std::string sqlserver = "select max(convert(int,id)) as ls_bm from ZHXX";
+  const std::string access = "select max(clng(id)) as ls_bm from ZHXX";
+  run("insert into ZHXX(ID) values('7')");
+  run("insert into ZHXX(ID) values(' 12 ')");
+  for (const std::string& statement : {sqlserver, access}) EXPECT_EQ(value(statement), ado::Value(Long{12}));
+  run("insert into ZHXX(ID) values('')");
+  EXPECT_EQ(value(sqlserver), ado::Value(Long{12}));
+  EXPECT_NE(error_of(*books, access), 0);
+  run("update ZHXX set ID='3000000000' where ID=''");
+  for (const std::string& statement : {sqlserver, access}) {
+    EXPECT_EQ(error_of(*books, statement), ado::error::data_overflow);
+  }
+  run("update ZHXX set ID='7 or 8' where ID='3000000000'");
+  for (const std::string& statement : {sqlserver, access}) EXPECT_NE(error_of(*books, statement), 0);
+  run("delete from ZHXX where ID='7 or 8'");
+  for (const std::string& statement : {sqlserver, access}) EXPECT_EQ(value(statement), ado::Value(Long{12}));
+}
+
 TEST_F(SqliteDialects, A_text_that_is_no_number_is_an_error) {
   run("insert into ZHXX(ID) values('abc')");
   EXPECT_NE(error_of(*books, "select max(convert(int,ID)) as ls_bm from ZHXX"), 0);

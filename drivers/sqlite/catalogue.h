@@ -52,8 +52,7 @@ class Catalogue {
   // The columns of a table or a view, empty where there is none. Good until the next forget.
   const TableDescription& table(std::string_view name);
 
-  // Whether the table has an index on CAST(column AS INTEGER). By such an index a table promises that the texts of the
-  // column are whole numbers.
+  // Whether the table has an index on CAST(column AS INTEGER).
   bool has_number_index(std::string_view table, std::string_view column);
 
   // To be called when the database's tables may have changed.

@@ -25,6 +25,13 @@ namespace {
 constexpr std::string_view verbs[] = {"select", "insert", "replace", "update", "delete", "values"};
 constexpr std::string_view compounds[] = {"union", "except", "intersect"};
 
+// The keys of a ledger that are more or less than the digits of a 32-bit number; books keep them in an index of this
+// very condition, so that it is known at once that there are none.
+std::string no_plain_number(std::string_view column) {
+  const std::string name(column);
+  return "length(" + name + ") NOT BETWEEN 1 AND 9 OR " + name + " GLOB '*[^0-9]*'";
+}
+
 class Rewriter {
  public:
   Rewriter(std::span<const Token> tokens, Catalogue& catalogue)
@@ -64,7 +71,9 @@ class Rewriter {
   }
 
   // select max(convert(int,ID)) as ls_bm from T, or max(clng(ID)), where an index holds these numbers: without it the
-  // question for the next number of a ledger reads the whole of it.
+  // question for the next number of a ledger reads the whole of it. The index reads any text as a number, so it is
+  // asked only while the column holds plain numbers; what else may be read as one, or is an error, the whole column
+  // tells.
   bool highest_number(std::size_t verb, std::size_t end) {
     if (!is(verb + 1, "max") || !is_symbol(verb + 2, "(")) return false;
     const bool is_convert =
@@ -77,9 +86,14 @@ class Rewriter {
     if (!is(from, "from") || from + 2 != end || !tokens_[column].is_name() || !tokens_[end - 1].is_name()) return false;
     if (!catalogue_.has_number_index(bare_name(tokens_[end - 1]), bare_name(tokens_[column]))) return false;
     const std::string number = "CAST(" + std::string(tokens_[column].text) + " AS INTEGER)";
+    const std::string table(tokens_[end - 1].text);
     write(verb);
-    out_.write("(SELECT " + number + " FROM " + std::string(tokens_[end - 1].text) + " ORDER BY " + number +
-                   " COLLATE BINARY DESC LIMIT 1)",
+    out_.write("(CASE WHEN EXISTS(SELECT 1 FROM " + table + " WHERE " + no_plain_number(tokens_[column].text) +
+                   ") THEN (SELECT ",
+               true);
+    range(verb + 1, column + 3);
+    out_.write("FROM " + table + ") ELSE (SELECT " + number + " FROM " + table + " ORDER BY " + number +
+                   " COLLATE BINARY DESC LIMIT 1) END)",
                true);
     for (std::size_t place = column + 3; place < from; ++place) write(place);
     return true;
