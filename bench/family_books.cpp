@@ -60,9 +60,9 @@ void fill(PlainSqlite& books, const schema::Table& table, std::string_view sourc
   std::string columns, values;
   for (const schema::Column& column : table.columns) {
     const bool is_first = columns.empty();
-    if (!is_first) columns += ',', values += ',';
-    columns += column.name;
-    values += value_of(column, is_first);
+    const std::string separator = is_first ? "" : ",";
+    columns.append(separator).append(column.name);
+    values.append(separator).append(value_of(column, is_first));
   }
   books.execute("insert into " + std::string(table.name) + "(" + columns + ") select " + values + " from " +
                 std::string(source));
@@ -70,7 +70,8 @@ void fill(PlainSqlite& books, const schema::Table& table, std::string_view sourc
 
 // The numbers of the bills of a table, of all kinds that it has; the journal's are 1, 2, 3.
 void number_bills(PlainSqlite& books, std::string_view table, int bills) {
-  std::string prefixes = "'' when -1 then ''", codes = "null when -1 then null";
+  // A branch that is never taken, for the journal, which has no kinds.
+  std::string prefixes = " when -1 then ''", codes = " when -1 then null";
   int count = 0;
   for (const Kind* kind : kind::all()) {
     if (kind->header_table() != table || kind->prefix.empty()) continue;
@@ -78,7 +79,7 @@ void number_bills(PlainSqlite& books, std::string_view table, int bills) {
     prefixes += when + "'" + std::string(kind->prefix) + "'";
     codes += when + (kind->code ? std::to_string(*kind->code) : "null");
   }
-  const std::string turn = "case n%365%" + std::to_string(std::max(count, 1)) + " when -2 then ";
+  const std::string turn = "case n%365%" + std::to_string(std::max(count, 1));
   const std::string last = std::to_string(bills - 1);
   books.execute(
       "create temp table bills as with recursive counted(n) as (select 0 union all select n+1 from counted "
