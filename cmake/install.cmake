@@ -4,7 +4,7 @@ include(CMakePackageConfigHelpers)
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/brunvik)
 
 # The driver is an export of its own: a host that brings its own connection needs no SQLite.
-install(TARGETS brunvik brunvik_schema EXPORT brunvikCore)
+install(TARGETS brunvik brunvik_dialects brunvik_schema EXPORT brunvikCore)
 install(TARGETS brunvik_sqlite EXPORT brunvikSqlite)
 install(EXPORT brunvikCore NAMESPACE brunvik:: DESTINATION ${package_folder})
 install(EXPORT brunvikSqlite NAMESPACE brunvik:: DESTINATION ${package_folder})
@@ -35,7 +35,9 @@ endfunction()
 
 brunvik_pkg_config(brunvik LIBRARY brunvik REQUIRES_PRIVATE libutf8proc
                    DESCRIPTION "Business objects of a trading company's stock and accounts")
-brunvik_pkg_config(brunvik-sqlite LIBRARY brunvik_sqlite REQUIRES brunvik REQUIRES_PRIVATE sqlite3
+brunvik_pkg_config(brunvik-dialects LIBRARY brunvik_dialects REQUIRES brunvik
+                   DESCRIPTION "What the drivers of brunvik share")
+brunvik_pkg_config(brunvik-sqlite LIBRARY brunvik_sqlite REQUIRES brunvik-dialects REQUIRES_PRIVATE sqlite3
                    DESCRIPTION "A connection of brunvik to a SQLite database")
 brunvik_pkg_config(brunvik-schema LIBRARY brunvik_schema
                    DESCRIPTION "The statements that lay the tables of brunvik")

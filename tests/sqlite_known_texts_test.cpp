@@ -1,6 +1,4 @@
 // A statement that comes again with other values means what it would mean as the first of its text.
-#include "drivers/sqlite/cutter.h"
-#include "drivers/sqlite/known_text.h"
 #include "tests/sqlite_books.h"
 
 namespace brunvik::sqlite {
@@ -59,27 +57,6 @@ TEST_F(SqliteKnownTexts, A_text_that_was_let_go_is_known_no_more) {
       EXPECT_EQ(few->Execute(statement + std::to_string(round) + "'").names().front(), column);
     }
   }
-}
-
-TEST(SqliteKnownText, It_cuts_what_the_cutter_cuts) {
-  Cutter cutter;
-  cutter.cut("update stockbill set Remarks='',Amount=1.5,Status=0 where Id='JHR1'");
-  const KnownText known(cutter.shape(), cutter.literals().size());
-  ASSERT_NE(known.head(), 0U);
-  const std::string_view again = "update stockbill set Remarks='a''b',Amount=7,Status=33 where Id=''";
-  ASSERT_EQ(KnownText::head_of(again), known.head());
-  std::vector<Literal> literals;
-  ASSERT_TRUE(known.matches(again, literals));
-  ASSERT_TRUE(cutter.cut(again));
-  ASSERT_EQ(literals.size(), cutter.literals().size());
-  for (std::size_t place = 0; place < literals.size(); ++place) {
-    EXPECT_EQ(literals[place].content.data(), cutter.literals()[place].content.data());
-    EXPECT_EQ(literals[place].content.size(), cutter.literals()[place].content.size());
-    EXPECT_EQ(literals[place].kind, cutter.literals()[place].kind);
-    EXPECT_EQ(literals[place].has_apostrophes, cutter.literals()[place].has_apostrophes);
-  }
-  EXPECT_FALSE(known.matches("update stockbill set Remarks=null,Amount=7,Status=33 where Id=''", literals));
-  EXPECT_FALSE(known.matches("update stockbill set Remarks='a',Amount='7',Status=33 where Id=''", literals));
 }
 
 TEST_F(SqliteKnownTexts, A_zero_that_is_assigned_shares_the_shape_of_other_numbers) {

@@ -1,9 +1,6 @@
 // Whatever a value holds, it comes back as it went in, and the statement has the shape that its author wrote.
-#include <cmath>
 #include <random>
 
-#include "drivers/sqlite/cutter.h"
-#include "drivers/sqlite/rounding.h"
 #include "tests/sqlite_books.h"
 
 namespace brunvik::sqlite {
@@ -165,52 +162,6 @@ TEST_F(SqliteValues, Whole_numbers_keep_their_digits) {
   EXPECT_EQ(value("select Type from StockBill where Type=-2147483648"), ado::Value(Long{INT32_MIN}));
   run("update StockBill set Type=007");
   EXPECT_EQ(value("select Type from StockBill"), ado::Value(Long{7}));
-}
-
-TEST(SqliteCutter, Values_go_and_words_stay) {
-  Cutter cutter;
-  ASSERT_TRUE(cutter.cut("update T1 set A='x''y',B=-2.5,C=#2024-03-05# where t1.D=.5 and E2=1e-3"));
-  EXPECT_EQ(cutter.shape(), "update T1 set A=\x01,B=-\x02,C=\x03 where t1.D=\x02 and E2=\x02");
-  ASSERT_EQ(cutter.literals().size(), 5U);
-  EXPECT_EQ(cutter.literals()[0].content, "x''y");
-  EXPECT_TRUE(cutter.literals()[0].has_apostrophes);
-  EXPECT_EQ(cutter.literals()[1].content, "2.5");
-  EXPECT_EQ(cutter.literals()[2].content, "2024-03-05");
-  EXPECT_EQ(cutter.literals()[4].content, "1e-3");
-}
-
-TEST(SqliteCutter, Literals_that_mean_more_than_a_value_stay) {
-  Cutter cutter;
-  ASSERT_TRUE(
-      cutter.cut("select TOP 5 a,'b' from T where x LIKE 'c%' and y='d' and (z in (select 1 from U order by 2) "
-                 "and v='e') ORDER BY 3 limit 4"));
-  EXPECT_EQ(cutter.shape(),
-            "select TOP 5 a,'b' from T where x LIKE 'c%' and y=\x01 and (z in (select 1 from U order by "
-            "2) and v=\x01) ORDER BY 3 limit 4");
-}
-
-TEST(SqliteCutter, Statements_that_work_on_no_rows_are_left_alone) {
-  Cutter cutter;
-  EXPECT_FALSE(cutter.cut("create table T (a text default 'x')"));
-  EXPECT_FALSE(cutter.cut("pragma synchronous=1"));
-  EXPECT_FALSE(cutter.cut(""));
-}
-
-TEST(SqliteRounding, A_decimal_is_read_as_it_is_written) {
-  EXPECT_EQ(Decimal::read("0.3")->to_double(), 0.3);
-  EXPECT_EQ(Decimal::read("123456789012345678901234567890")->to_double(), 123456789012345678901234567890.0);
-  EXPECT_EQ(Decimal::read("1e400")->to_double(), HUGE_VAL);
-  EXPECT_EQ(Decimal::read("1e-400")->to_double(), 0.0);
-  EXPECT_EQ(Decimal::read("0." + std::string(400, '0') + "1")->to_double(), 0.0);
-  EXPECT_EQ(Decimal::read("5.")->to_double(), 5.0);
-  EXPECT_EQ(Decimal::read(".5")->amount(), 5'000);
-  EXPECT_EQ(Decimal::read("99999999999.9999")->amount(), 999'999'999'999'999);
-  EXPECT_EQ(Decimal::read("0.00005")->amount(), 0);
-  EXPECT_EQ(Decimal::read("0.00015")->amount(), 2);
-  EXPECT_EQ(Decimal::read("0.000150000000000000000001")->amount(), 2);
-  EXPECT_EQ(Decimal::read("549755813887.9999")->amount(), 5'497'558'138'879'999);
-  EXPECT_FALSE(Decimal::read("549755813888")->amount());
-  for (const char* text : {"", ".", "-1", "1e", "1e+", "1x", "1 ", "0x1"}) EXPECT_FALSE(Decimal::read(text)) << text;
 }
 
 }  // namespace

@@ -2,11 +2,7 @@
 
 #include <sqlite3.h>
 
-#include <algorithm>
-#include <limits>
-
 #include "brunvik/ado/names.h"
-#include "brunvik/ado/types.h"
 #include "drivers/sqlite/failure.h"
 #include "drivers/sqlite/statement.h"
 
@@ -64,37 +60,7 @@ ColumnType type_of_declaration(std::string_view declaration) noexcept {
   return ColumnType::other;
 }
 
-std::optional<WholeRange> whole_range(ColumnType type) noexcept {
-  const auto range_of = [](auto number) {
-    using Limits = std::numeric_limits<decltype(number)>;
-    return WholeRange{Limits::min(), Limits::max()};
-  };
-  switch (type) {
-    case ColumnType::byte_number:
-      return range_of(Byte{});
-    case ColumnType::integer_number:
-      return range_of(Integer{});
-    case ColumnType::long_number:
-      return range_of(Long{});
-    default:
-      return {};
-  }
-}
-
-std::optional<ColumnType> type_of_column(const TableDescription& table, std::string_view name) noexcept {
-  const auto column = std::find_if(table.begin(), table.end(), [name](const ColumnDescription& description) {
-    return ado::same_name(description.name, name);
-  });
-  if (column == table.end()) return {};
-  return column->type;
-}
-
-const TableDescription& Catalogue::table(std::string_view name) {
-  std::string key(name);
-  std::transform(key.begin(), key.end(), key.begin(), ado::lower);
-  const auto known = tables_.find(key);
-  if (known != tables_.end()) return known->second;
-
+TableDescription Catalogue::read(std::string_view name) {
   TableDescription columns;
   for_each_row(database_, columns_of, name, [&columns](sqlite3_stmt* row) {
     columns.push_back({std::string(column_text(row, 0)), type_of_declaration(column_text(row, 1))});
@@ -104,10 +70,7 @@ const TableDescription& Catalogue::table(std::string_view name) {
       if (column.type == ColumnType::text && column.name == column_text(row, 0)) column.type = ColumnType::key;
     }
   });
-  static const TableDescription none;
-  // Names that are no tables come from texts, and there is no end to them.
-  if (columns.empty()) return none;
-  return tables_.emplace(std::move(key), std::move(columns)).first->second;
+  return columns;
 }
 
 bool Catalogue::has_number_index(std::string_view table, std::string_view column) {

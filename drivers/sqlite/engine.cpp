@@ -4,11 +4,11 @@
 #include <limits>
 
 #include "brunvik/ado/errors.h"
+#include "drivers/dialects/memory.h"
 #include "drivers/sqlite/collation.h"
 #include "drivers/sqlite/failure.h"
 #include "drivers/sqlite/functions.h"
 #include "drivers/sqlite/known_tables.h"
-#include "drivers/sqlite/memory.h"
 
 namespace brunvik::sqlite {
 

@@ -11,9 +11,10 @@
 #include <vector>
 
 #include "brunvik/ado/recordset.h"
+#include "drivers/dialects/cutter.h"
 #include "drivers/sqlite/catalogue.h"
 #include "drivers/sqlite/connection.h"
-#include "drivers/sqlite/cutter.h"
+#include "drivers/sqlite/dialects.h"
 #include "drivers/sqlite/shape_cache.h"
 #include "drivers/sqlite/waiting.h"
 

@@ -2,8 +2,6 @@
 
 #include <sqlite3.h>
 
-#include <utility>
-
 #include "brunvik/ado/errors.h"
 
 namespace brunvik::sqlite {
@@ -39,10 +37,6 @@ void raise_failure(int code, Stage stage, std::string_view engine_text, std::str
 
 void raise_failure(sqlite3* database, int code, Stage stage, std::string_view statement) {
   raise_failure(code, stage, database ? sqlite3_errmsg(database) : sqlite3_errstr(code), statement);
-}
-
-void refuse(std::string reason, std::string_view statement) {
-  throw ado::RuntimeError(error::statement_refused, std::move(reason), std::string(statement));
 }
 
 }  // namespace brunvik::sqlite

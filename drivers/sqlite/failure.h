@@ -1,10 +1,11 @@
 // What SQLite reports, as our run-time errors: with their number, the engine's own text, and the statement.
 #pragma once
 
-#include <string>
 #include <string_view>
 
 #include "brunvik/ado/types.h"
+#include "drivers/dialects/refusal.h"
+#include "drivers/sqlite/dialects.h"
 
 struct sqlite3;
 
@@ -22,8 +23,5 @@ extern const int number_too_large;
 
 // The error that a database met last.
 [[noreturn]] void raise_failure(sqlite3* database, int code, Stage stage, std::string_view statement);
-
-// The statement is refused before SQLite sees it.
-[[noreturn]] void refuse(std::string reason, std::string_view statement);
 
 }  // namespace brunvik::sqlite

@@ -10,9 +10,9 @@
 #include "brunvik/ado/errors.h"
 #include "brunvik/ado/money.h"
 #include "brunvik/ado/numbers.h"
+#include "drivers/dialects/rounding.h"
 #include "drivers/sqlite/failure.h"
 #include "drivers/sqlite/pattern.h"
-#include "drivers/sqlite/rounding.h"
 
 namespace brunvik::sqlite {
 

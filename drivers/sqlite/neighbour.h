@@ -11,7 +11,8 @@
 #include <span>
 #include <string>
 
-#include "drivers/sqlite/tokens.h"
+#include "drivers/dialects/tokens.h"
+#include "drivers/sqlite/dialects.h"
 
 namespace brunvik::sqlite {
 

@@ -1,9 +1,10 @@
-// LIKE patterns: % for any text, _ for one character, and in brackets one character of a list, as in [_], [a-f],
-// [^0-9]. Letters match without regard to case.
+// LIKE patterns in SQLite's words.
 #pragma once
 
 #include <string>
 #include <string_view>
+
+#include "drivers/sqlite/dialects.h"
 
 namespace brunvik::sqlite {
 

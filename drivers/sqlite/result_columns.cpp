@@ -1,6 +1,6 @@
 #include <limits>
 
-#include "drivers/sqlite/rounding.h"
+#include "drivers/dialects/rounding.h"
 #include "drivers/sqlite/shape.h"
 
 namespace brunvik::sqlite {
@@ -65,10 +65,7 @@ ResultColumns::ResultColumns(sqlite3_stmt* statement, const Rewritten& rewritten
   for (std::size_t place = 0; place < count; ++place) {
     const char* const name = sqlite3_column_name(statement, static_cast<int>(place));
     const char* const declared = sqlite3_column_decltype(statement, static_cast<int>(place));
-    const std::size_t from_last = count - 1 - place;
-    const SelectedColumn* selected = nullptr;
-    if (from_last < rewritten.columns_from_last.size()) selected = &rewritten.columns_from_last[from_last];
-    if (place < rewritten.columns_from_first.size()) selected = &rewritten.columns_from_first[place];
+    const SelectedColumn* const selected = rewritten.selection.column(place, count);
     names.emplace_back(selected && !selected->name.empty() ? selected->name.c_str() : name ? name : "");
     types_.push_back(declared                          ? type_of_declaration(declared)
                      : selected && selected->is_amount ? ColumnType::money

@@ -12,26 +12,19 @@
 #include <string_view>
 #include <vector>
 
+#include "drivers/dialects/selection.h"
 #include "drivers/sqlite/catalogue.h"
+#include "drivers/sqlite/dialects.h"
 
 namespace brunvik::sqlite {
 
 // What a cut-out value becomes when it is bound.
 enum class Target : unsigned char { plain, key, money, single, byte_number, integer_number, long_number };
 
-// What the engine can't tell of a column that is no column of a table.
-struct SelectedColumn {
-  std::string name;  // as the statement writes it, where the engine got other words; else empty
-  bool is_amount;
-};
-
 struct Rewritten {
   std::string text;
   std::vector<Target> targets;  // one for each cut-out value; the text calls them ?1, ?2 and so on
-
-  // Of a SELECT, counted from the first column on and from the last one back. A * among them ends both.
-  std::vector<SelectedColumn> columns_from_first;
-  std::vector<SelectedColumn> columns_from_last;
+  Selection selection;
 };
 
 // `statement` is the text that the shape was cut from, for the error statement_refused.

@@ -4,9 +4,9 @@
 
 #include "brunvik/ado/errors.h"
 #include "brunvik/ado/numbers.h"
+#include "drivers/dialects/memory.h"
+#include "drivers/dialects/rounding.h"
 #include "drivers/sqlite/assignment.h"
-#include "drivers/sqlite/memory.h"
-#include "drivers/sqlite/rounding.h"
 
 namespace brunvik::sqlite {
 

@@ -8,7 +8,8 @@
 #include <vector>
 
 #include "brunvik/ado/recordset.h"
-#include "drivers/sqlite/cutter.h"
+#include "drivers/dialects/cutter.h"
+#include "drivers/sqlite/dialects.h"
 #include "drivers/sqlite/rewriting.h"
 #include "drivers/sqlite/statement.h"
 

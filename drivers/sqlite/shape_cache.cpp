@@ -4,7 +4,7 @@
 #include <cstring>
 #include <utility>
 
-#include "drivers/sqlite/memory.h"
+#include "drivers/dialects/memory.h"
 
 namespace brunvik::sqlite {
 

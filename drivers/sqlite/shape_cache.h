@@ -10,7 +10,8 @@
 #include <unordered_map>
 #include <vector>
 
-#include "drivers/sqlite/known_text.h"
+#include "drivers/dialects/known_text.h"
+#include "drivers/sqlite/dialects.h"
 #include "drivers/sqlite/shape.h"
 
 namespace brunvik::sqlite {

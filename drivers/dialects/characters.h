@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string_view>
 
-namespace brunvik::sqlite {
+namespace brunvik::dialects {
 
 enum class Character : std::uint8_t {
   other,
@@ -44,4 +44,4 @@ constexpr Character character(char c) noexcept { return characters[static_cast<u
 constexpr bool is_digit(char c) noexcept { return character(c) == Character::digit; }
 constexpr bool is_word(char c) noexcept { return character(c) == Character::word || is_digit(c); }
 
-}  // namespace brunvik::sqlite
+}  // namespace brunvik::dialects

@@ -1,10 +1,10 @@
-#include "drivers/sqlite/selection.h"
+#include "drivers/dialects/selection.h"
 
 #include <algorithm>
 #include <string>
 #include <vector>
 
-namespace brunvik::sqlite {
+namespace brunvik::dialects {
 
 namespace {
 
@@ -37,8 +37,15 @@ SelectedColumn described(std::span<const Token> tokens, const Expressions& expre
 
 }  // namespace
 
-void describe_selection(std::span<const Token> tokens, const Expressions& expressions, std::size_t first,
-                        std::size_t end, Rewritten& rewritten) {
+const SelectedColumn* Selection::column(std::size_t place, std::size_t count) const noexcept {
+  if (place < from_first.size()) return &from_first[place];
+  const std::size_t back = count - 1 - place;
+  return back < from_last.size() ? &from_last[back] : nullptr;
+}
+
+Selection describe_selection(std::span<const Token> tokens, const Expressions& expressions, std::size_t first,
+                             std::size_t end) {
+  Selection selection;
   const auto is = [&](std::size_t place, std::string_view word) { return place < end && tokens[place].is(word); };
   if (is(first, "distinct") || is(first, "all")) ++first;
   if (is(first, "top")) first += first + 1 < end && tokens[first + 1].is_symbol("(") ? 4 : 2;
@@ -48,7 +55,7 @@ void describe_selection(std::span<const Token> tokens, const Expressions& expres
   while (first < list_end) {
     const std::size_t item_end = expressions.end_of_item(first, list_end);
     if (is_star(tokens.subspan(first, item_end - first))) {
-      if (!star) rewritten.columns_from_first = columns;
+      if (!star) selection.from_first = columns;
       star = true;
       columns.clear();
     } else {
@@ -56,8 +63,9 @@ void describe_selection(std::span<const Token> tokens, const Expressions& expres
     }
     first = item_end + 1;
   }
-  if (!star) rewritten.columns_from_first = columns;
-  rewritten.columns_from_last.assign(columns.rbegin(), columns.rend());
+  if (!star) selection.from_first = columns;
+  selection.from_last.assign(columns.rbegin(), columns.rend());
+  return selection;
 }
 
 bool selects_all(std::span<const Token> tokens, const Expressions& expressions, std::size_t first, std::size_t end) {
@@ -69,4 +77,4 @@ bool selects_all(std::span<const Token> tokens, const Expressions& expressions, 
   return false;
 }
 
-}  // namespace brunvik::sqlite
+}  // namespace brunvik::dialects

@@ -1,15 +1,15 @@
-#include "drivers/sqlite/cutter.h"
+#include "drivers/dialects/cutter.h"
 
 #include <cstring>
 
 #include "brunvik/ado/date.h"
 #include "brunvik/ado/errors.h"
 #include "brunvik/ado/names.h"
-#include "drivers/sqlite/characters.h"
-#include "drivers/sqlite/failure.h"
-#include "drivers/sqlite/memory.h"
+#include "drivers/dialects/characters.h"
+#include "drivers/dialects/memory.h"
+#include "drivers/dialects/refusal.h"
 
-namespace brunvik::sqlite {
+namespace brunvik::dialects {
 
 namespace {
 
@@ -246,4 +246,4 @@ void Cutter::let_go() noexcept {
   std::vector<Literal>().swap(literals_);
 }
 
-}  // namespace brunvik::sqlite
+}  // namespace brunvik::dialects

@@ -1,4 +1,4 @@
-#include "drivers/sqlite/rounding.h"
+#include "drivers/dialects/rounding.h"
 
 #include <array>
 #include <charconv>
@@ -8,7 +8,7 @@
 #include "brunvik/ado/errors.h"
 #include "brunvik/ado/money.h"
 
-namespace brunvik::sqlite {
+namespace brunvik::dialects {
 
 namespace {
 
@@ -178,4 +178,4 @@ Amount Decimal::amount() const noexcept {
   return kept(count);
 }
 
-}  // namespace brunvik::sqlite
+}  // namespace brunvik::dialects

@@ -9,7 +9,7 @@
 #include <optional>
 #include <string_view>
 
-namespace brunvik::sqlite {
+namespace brunvik::dialects {
 
 // A count of ten-thousandths, empty where a double can't keep it exactly: from ±549,755,813,888 on, that is 2^39, the
 // doubles lie farther apart than two amounts.
@@ -58,4 +58,4 @@ class Decimal {
   bool short_ = true;  // digits_ and places_ say all of it
 };
 
-}  // namespace brunvik::sqlite
+}  // namespace brunvik::dialects

@@ -12,7 +12,7 @@
 #include <string_view>
 #include <vector>
 
-namespace brunvik::sqlite {
+namespace brunvik::dialects {
 
 enum class LiteralKind : std::uint8_t { text, number, date };
 
@@ -59,4 +59,4 @@ class Cutter {
   std::vector<Literal> literals_;
 };
 
-}  // namespace brunvik::sqlite
+}  // namespace brunvik::dialects

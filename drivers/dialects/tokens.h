@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "brunvik/ado/names.h"
-#include "drivers/sqlite/cutter.h"
+#include "drivers/dialects/cutter.h"
 
-namespace brunvik::sqlite {
+namespace brunvik::dialects {
 
 enum class TokenKind {
   word,       // a name or a keyword
@@ -42,4 +42,4 @@ std::string_view bare_name(const Token& token);
 // A word that can't be the name of a column, so that what follows it begins anew.
 bool is_keyword(const Token& token);
 
-}  // namespace brunvik::sqlite
+}  // namespace brunvik::dialects

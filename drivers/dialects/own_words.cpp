@@ -1,11 +1,11 @@
-#include "drivers/sqlite/own_words.h"
+#include "drivers/dialects/own_words.h"
 
 #include <algorithm>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
-namespace brunvik::sqlite {
+namespace brunvik::dialects {
 
 namespace {
 
@@ -139,4 +139,4 @@ void refuse_repeated_columns(std::span<const Token> tokens, const Expressions& e
   }
 }
 
-}  // namespace brunvik::sqlite
+}  // namespace brunvik::dialects

@@ -1,8 +1,8 @@
-#include "drivers/sqlite/scope.h"
+#include "drivers/dialects/scope.h"
 
 #include <algorithm>
 
-namespace brunvik::sqlite {
+namespace brunvik::dialects {
 
 namespace {
 
@@ -62,4 +62,4 @@ bool Scope::has_column(std::string_view name) const {
                      [name](const Source& source) { return type_of_column(*source.columns, name).has_value(); });
 }
 
-}  // namespace brunvik::sqlite
+}  // namespace brunvik::dialects

@@ -3,11 +3,11 @@
 
 #include <span>
 
-#include "drivers/sqlite/expression.h"
-#include "drivers/sqlite/scope.h"
-#include "drivers/sqlite/tokens.h"
+#include "drivers/dialects/expression.h"
+#include "drivers/dialects/scope.h"
+#include "drivers/dialects/tokens.h"
 
-namespace brunvik::sqlite {
+namespace brunvik::dialects {
 
 // Throws std::invalid_argument with the reason, where a statement holds one of SQLite's own words: REPLACE and INSERT
 // OR in front of a table, ON CONFLICT, RETURNING, ==, GLOB, ISNULL, the row's number, MAX and MIN of several arguments.
@@ -17,4 +17,4 @@ void refuse_own_words(std::span<const Token> tokens, const Expressions& expressi
 // The same for a column that an insert or an update names twice.
 void refuse_repeated_columns(std::span<const Token> tokens, const Expressions& expressions);
 
-}  // namespace brunvik::sqlite
+}  // namespace brunvik::dialects

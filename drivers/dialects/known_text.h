@@ -11,9 +11,9 @@
 #include <string_view>
 #include <vector>
 
-#include "drivers/sqlite/cutter.h"
+#include "drivers/dialects/cutter.h"
 
-namespace brunvik::sqlite {
+namespace brunvik::dialects {
 
 class KnownText {
  public:
@@ -41,4 +41,4 @@ class KnownText {
   bool selects_ = false;
 };
 
-}  // namespace brunvik::sqlite
+}  // namespace brunvik::dialects

@@ -1,9 +1,9 @@
-#include "drivers/sqlite/expression.h"
+#include "drivers/dialects/expression.h"
 
 #include <algorithm>
 #include <stdexcept>
 
-namespace brunvik::sqlite {
+namespace brunvik::dialects {
 
 namespace {
 
@@ -168,4 +168,4 @@ Arithmetic Expressions::kind_of(std::size_t first, std::size_t end) const {
   return run.end == end ? run.kind : Arithmetic::other;
 }
 
-}  // namespace brunvik::sqlite
+}  // namespace brunvik::dialects

@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <utility>
 
-namespace brunvik::sqlite {
+namespace brunvik::dialects {
 
 // Of the room for a statement's text and values.
 inline constexpr std::size_t largest_held = 64 * 1'024;
@@ -26,4 +26,4 @@ class AtEnd {
   Body body_;
 };
 
-}  // namespace brunvik::sqlite
+}  // namespace brunvik::dialects

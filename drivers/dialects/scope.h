@@ -5,10 +5,10 @@
 #include <string_view>
 #include <vector>
 
-#include "drivers/sqlite/catalogue.h"
-#include "drivers/sqlite/tokens.h"
+#include "drivers/dialects/columns.h"
+#include "drivers/dialects/tokens.h"
 
-namespace brunvik::sqlite {
+namespace brunvik::dialects {
 
 class Scope {
  public:
@@ -31,4 +31,4 @@ class Scope {
   std::vector<Source> sources_;
 };
 
-}  // namespace brunvik::sqlite
+}  // namespace brunvik::dialects

@@ -5,9 +5,9 @@
 #include <string_view>
 #include <utility>
 
-#include "drivers/sqlite/characters.h"
+#include "drivers/dialects/characters.h"
 
-namespace brunvik::sqlite {
+namespace brunvik::dialects {
 
 class Writer {
  public:
@@ -27,4 +27,4 @@ class Writer {
   std::string text_;
 };
 
-}  // namespace brunvik::sqlite
+}  // namespace brunvik::dialects

@@ -1,13 +1,13 @@
-#include "drivers/sqlite/grouping.h"
+#include "drivers/dialects/grouping.h"
 
 #include <algorithm>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
-#include "drivers/sqlite/selection.h"
+#include "drivers/dialects/selection.h"
 
-namespace brunvik::sqlite {
+namespace brunvik::dialects {
 
 namespace {
 
@@ -215,4 +215,4 @@ void refuse_what_has_no_group(std::span<const Token> tokens, const Expressions& 
   }
 }
 
-}  // namespace brunvik::sqlite
+}  // namespace brunvik::dialects

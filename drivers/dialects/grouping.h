@@ -3,11 +3,11 @@
 
 #include <span>
 
-#include "drivers/sqlite/catalogue.h"
-#include "drivers/sqlite/expression.h"
-#include "drivers/sqlite/tokens.h"
+#include "drivers/dialects/columns.h"
+#include "drivers/dialects/expression.h"
+#include "drivers/dialects/tokens.h"
 
-namespace brunvik::sqlite {
+namespace brunvik::dialects {
 
 // Throws std::invalid_argument with the reason for each SELECT of a statement, also for one in parentheses,
 // - that selects a column beside an aggregate, and doesn't group by it;
@@ -15,4 +15,4 @@ namespace brunvik::sqlite {
 // - whose condition names an item of the list by its alias.
 void refuse_what_has_no_group(std::span<const Token> tokens, const Expressions& expressions, Catalogue& catalogue);
 
-}  // namespace brunvik::sqlite
+}  // namespace brunvik::dialects

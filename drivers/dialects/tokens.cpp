@@ -1,11 +1,11 @@
-#include "drivers/sqlite/tokens.h"
+#include "drivers/dialects/tokens.h"
 
 #include <algorithm>
 #include <array>
 
-#include "drivers/sqlite/characters.h"
+#include "drivers/dialects/characters.h"
 
-namespace brunvik::sqlite {
+namespace brunvik::dialects {
 
 namespace {
 
@@ -108,4 +108,4 @@ bool is_keyword(const Token& token) {
          std::any_of(words.begin(), words.end(), [&](std::string_view word) { return token.is(word); });
 }
 
-}  // namespace brunvik::sqlite
+}  // namespace brunvik::dialects

@@ -1,11 +1,11 @@
-#include "drivers/sqlite/known_text.h"
+#include "drivers/dialects/known_text.h"
 
 #include <algorithm>
 #include <cstring>
 
-#include "drivers/sqlite/characters.h"
+#include "drivers/dialects/characters.h"
 
-namespace brunvik::sqlite {
+namespace brunvik::dialects {
 
 namespace {
 
@@ -81,4 +81,4 @@ bool KnownText::matches(std::string_view statement, std::vector<Literal>& litera
   return std::string_view(place, end) == end_;
 }
 
-}  // namespace brunvik::sqlite
+}  // namespace brunvik::dialects

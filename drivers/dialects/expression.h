@@ -5,10 +5,10 @@
 #include <span>
 #include <vector>
 
-#include "drivers/sqlite/scope.h"
-#include "drivers/sqlite/tokens.h"
+#include "drivers/dialects/scope.h"
+#include "drivers/dialects/tokens.h"
 
-namespace brunvik::sqlite {
+namespace brunvik::dialects {
 
 enum class Arithmetic {
   neutral,  // whole numbers and literals
@@ -69,4 +69,4 @@ class Expressions {
 
 bool is_sign(const Token& token);
 
-}  // namespace brunvik::sqlite
+}  // namespace brunvik::dialects

@@ -1,0 +1,64 @@
+#include "drivers/dialects/pattern.h"
+
+#include <stdexcept>
+
+namespace brunvik::dialects {
+
+std::vector<PatternElement> elements_of(std::string_view pattern) {
+  using Kind = PatternElement::Kind;
+  std::vector<PatternElement> elements;
+  const auto take = [&pattern, &elements](Kind kind, std::size_t length) {
+    elements.push_back({kind, pattern.substr(0, length)});
+    pattern.remove_prefix(length);
+  };
+  while (!pattern.empty()) {
+    if (pattern.front() == '%') {
+      take(Kind::any_text, 1);
+    } else if (pattern.front() == '_') {
+      take(Kind::any_character, 1);
+    } else if (pattern.front() != '[') {
+      take(Kind::character, length_of_character(pattern));
+    } else {
+      const std::string_view list = list_at(pattern);
+      if (list.empty()) {
+        throw std::invalid_argument("A bracket in a pattern has no end: " + std::string(pattern));
+      }
+      pattern.remove_prefix(1);
+      take(length_of_character(list) == list.size() ? Kind::character : Kind::list, list.size());
+      pattern.remove_prefix(1);
+    }
+  }
+  return elements;
+}
+
+std::size_t length_of_character(std::string_view text) noexcept {
+  if ((static_cast<unsigned char>(text.front()) & 0xc0) != 0xc0) return 1;
+  std::size_t length = 1;
+  while (length < text.size() && length < 4 && (static_cast<unsigned char>(text[length]) & 0xc0) == 0x80) ++length;
+  return length;
+}
+
+std::string_view list_at(std::string_view pattern) noexcept {
+  const std::size_t end = pattern.find(']', 2);
+  return end == std::string_view::npos ? std::string_view() : pattern.substr(1, end - 1);
+}
+
+std::string plain_text(std::string_view literal) {
+  std::string text;
+  for (std::size_t place = 1; place + 1 < literal.size(); ++place) {
+    text += literal[place];
+    if (literal[place] == '\'') ++place;
+  }
+  return text;
+}
+
+std::string quoted(std::string_view text) {
+  std::string literal = "'";
+  for (const char c : text) {
+    literal += c;
+    if (c == '\'') literal += c;
+  }
+  return literal + "'";
+}
+
+}  // namespace brunvik::dialects
