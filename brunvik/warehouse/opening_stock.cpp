@@ -185,16 +185,25 @@ const Members& clsInitInBill::table() {
   return table;
 }
 
+// A half is made at its first use, which may fail like anything else that a verb does.
 Long clsInitInBill::Save(const std::string& sZLID, Integer iZYCP, Integer) noexcept {
-  return save(new_goods(), sZLID, iZYCP);
+  return trap([&] { stop_unless_done(save(new_goods(), sZLID, iZYCP)); });
 }
 Long clsInitInBill::RGSave(const std::string& sZLID, Integer iZYCP, Integer) noexcept {
-  return save(repair_goods(), sZLID, iZYCP);
+  return trap([&] { stop_unless_done(save(repair_goods(), sZLID, iZYCP)); });
 }
-Long clsInitInBill::GetNewId(std::string& BID) noexcept { return propose_number(new_goods(), BID); }
-Long clsInitInBill::GetRGNewId(std::string& BID) noexcept { return propose_number(repair_goods(), BID); }
-Long clsInitInBill::LoadById(const std::string& BID) noexcept { return load(new_goods(), BID); }
-Long clsInitInBill::LoadRGById(const std::string& BID) noexcept { return load(repair_goods(), BID); }
+Long clsInitInBill::GetNewId(std::string& BID) noexcept {
+  return trap([&] { stop_unless_done(propose_number(new_goods(), BID)); });
+}
+Long clsInitInBill::GetRGNewId(std::string& BID) noexcept {
+  return trap([&] { stop_unless_done(propose_number(repair_goods(), BID)); });
+}
+Long clsInitInBill::LoadById(const std::string& BID) noexcept {
+  return trap([&] { stop_unless_done(load(new_goods(), BID)); });
+}
+Long clsInitInBill::LoadRGById(const std::string& BID) noexcept {
+  return trap([&] { stop_unless_done(load(repair_goods(), BID)); });
+}
 
 Long clsInitInBill::save(const Half& half, const std::string& goods_class, Integer slice) noexcept {
   return trap(half.words.save_tag, [&] {
