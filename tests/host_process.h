@@ -46,6 +46,12 @@ class Process {
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
   }
 
+  double resident_megabytes() const {
+    double pages = 0;
+    std::ifstream("/proc/" + std::to_string(id_) + "/statm") >> pages >> pages;
+    return pages * static_cast<double>(sysconf(_SC_PAGESIZE)) / (1 << 20);
+  }
+
  private:
   pid_t id_;
 };
