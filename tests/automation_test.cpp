@@ -50,7 +50,8 @@ TEST_F(AutomationTest, Every_kind_has_its_class_in_the_order_of_the_catalogue) {
   Texts in_catalogue{"InitBrunvikVariable"}, listed;
   for (const Class& each : classes()) listed.emplace_back(each.name);
   for (const Kind* kind : kind::all()) in_catalogue.emplace_back(kind->class_name);
-  EXPECT_EQ(listed, in_catalogue);
+  ASSERT_EQ(listed, in_catalogue);
+  for (const Kind* kind : kind::all()) EXPECT_EQ(class_named(kind->class_name).kind, kind) << kind->class_name;
 }
 
 TEST_F(AutomationTest, A_class_is_found_without_regard_to_case) {

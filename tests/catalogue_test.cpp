@@ -9,8 +9,6 @@
 #include <string>
 #include <vector>
 
-#include "brunvik/automation/automation.h"
-
 namespace brunvik {
 namespace {
 
@@ -112,12 +110,6 @@ TEST(Catalogue, Has_every_kind_with_its_tables_its_prefix_and_its_codes) {
     EXPECT_EQ(kind.side, line.side);
     EXPECT_EQ(kind.opening, line.opening);
   }
-}
-
-TEST(Catalogue, Leaves_no_kind_without_a_class) {
-  std::set<const Kind*> built;
-  for (const automation::Class& each : automation::classes()) built.insert(each.kind);
-  for (const Kind* kind : kind::all()) EXPECT_TRUE(built.contains(kind)) << kind->class_name << " is no class";
 }
 
 TEST(Catalogue, A_prefix_has_three_letters_and_DHR_alone_serves_two_kinds) {
