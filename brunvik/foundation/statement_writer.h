@@ -16,7 +16,7 @@ namespace brunvik {
 
 class StatementWriter {
  public:
-  StatementWriter() noexcept {}
+  StatementWriter() noexcept = default;
   StatementWriter(const StatementWriter&) = delete;
   StatementWriter& operator=(const StatementWriter&) = delete;
 
