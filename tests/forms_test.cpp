@@ -107,8 +107,9 @@ TEST(Forms, Of_every_verb_name_columns_of_its_member_table_alone) {
         std::vector<Value> arguments;
         for (const Parameter& parameter : verb.parameters()) arguments.push_back(argument_for(parameter));
         verb.call(*bill_with_rows(each, books), arguments);
-        EXPECT_FALSE(last_failure().text.starts_with("no property is written to"))
-            << each.name << '.' << verb.name() << ": " << last_failure().text;
+        const bool refused = last_failure().number == ado::error::no_such_member ||
+                             last_failure().text.find("no property is written to") != std::string::npos;
+        EXPECT_FALSE(refused) << each.name << '.' << verb.name() << ": " << last_failure().text;
       }
     }
   }

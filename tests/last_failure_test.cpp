@@ -140,10 +140,12 @@ TEST_F(LastFailure, On_a_closed_session_is_that_of_the_set_that_could_not_be_ope
   EXPECT_EQ(last_failure().statement, "select * from ContactsCompany where id='C1'");
 }
 
-TEST_F(LastFailure, Says_the_column_that_a_form_names_and_no_member_keeps) {
-  EXPECT_EQ(trap([] { const Insert insert(test::Sample::table(), {}, "insert into T(Id,Nowhere) values("); }),
-            ado::error::no_such_field);
-  EXPECT_EQ(last_failure().text, "no property is written to column Nowhere");
+TEST_F(LastFailure, Says_the_table_and_the_name_that_a_form_has_and_no_member) {
+  const Members& members = test::Sample::table();
+  trap([&] { Insert(members, {}, "insert into T(Id,Nowhere) values("); });
+  EXPECT_EQ(told(), "3265|insert into T: no property is written to column Nowhere|insert into T(Id,Nowhere) values(");
+  trap([&] { Update(members, {from("Amount", "Nobody")}, "update T set Amount =  where Id="); });
+  EXPECT_EQ(told(), "438|update T: 对象不支持该属性或方法: Nobody|update T set Amount =  where Id=");
 }
 
 TEST_F(LastFailure, Is_told_of_whatever_a_host_throws) {

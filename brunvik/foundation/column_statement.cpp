@@ -1,7 +1,9 @@
 #include "brunvik/foundation/column_statement.h"
 
+#include <algorithm>
 #include <utility>
 
+#include "brunvik/ado/errors.h"
 #include "brunvik/ado/names.h"
 #include "brunvik/foundation/Declare_EnumType.h"
 #include "brunvik/foundation/sql_text.h"
@@ -30,6 +32,11 @@ std::string form_of(std::string_view text, bool audited) {
   return form.append(text);
 }
 
+// What it does, and to which table.
+std::string beginning(std::string_view text) {
+  return std::string(text.substr(0, std::min(text.find('('), text.find(" set "))));
+}
+
 std::string last_word(std::string_view text) {
   text = trimmed(text.substr(0, text.rfind('=')));
   return std::string(text.substr(text.find_last_of(" ,") + 1));
@@ -38,9 +45,12 @@ std::string last_word(std::string_view text) {
 }  // namespace
 
 ColumnStatement::ColumnStatement(const Members& members, const std::vector<ColumnSource>& sources,
-                                 std::string_view text, Parts (*take_apart)(std::string_view))
+                                 std::string_view text, Parts (*take_apart)(std::string_view)) try
     : audited_(resolved(take_apart(form_of(text, true)), members, sources, true)),
-      other_(resolved(take_apart(form_of(text, false)), members, sources, false)) {}
+      other_(resolved(take_apart(form_of(text, false)), members, sources, false)) {
+} catch (const ado::RuntimeError& error) {
+  throw ado::RuntimeError(error.number(), beginning(text) + ": " + error.description(), std::string(text));
+}
 
 ColumnStatement::Form ColumnStatement::resolved(Parts parts, const Members& members,
                                                 const std::vector<ColumnSource>& sources, bool audited) {

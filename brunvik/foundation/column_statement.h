@@ -5,7 +5,8 @@
 //       "insert into StockBill(Id,Type,Status,[Auditor,AuditTime,]Remarks) values(");
 //
 // [a|b] stands as a in the form for status 3 and as b in every other; |b may be left out. The text is taken apart once;
-// a name that is no column of the class is error 3265 there.
+// a name that is no column of the class is error 3265 there, and a source that is no property of it 438. Both tell the
+// table and the name.
 #pragma once
 
 #include <cstddef>

@@ -267,7 +267,8 @@ const Member& Members::named(std::string_view name) const {
   for (const Member& member : members_) {
     if (ado::same_name(member.name(), name)) return member;
   }
-  ado::raise(ado::error::no_such_member);
+  throw ado::RuntimeError(ado::error::no_such_member,
+                          std::string(ado::error_text(ado::error::no_such_member)).append(": ").append(name));
 }
 
 const Member& Members::written_to(std::string_view column) const {
