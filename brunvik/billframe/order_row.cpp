@@ -7,15 +7,7 @@ namespace brunvik {
 Members OrderRow::order_row_members(Member partner) {
   using C = OrderRow;
   return {
-      property<&C::BillId>("BillId", "BillId"),
-      property<&C::Rownum>("Rownum", "RowNum"),
-      property<&C::Gid>("Gid", "GId"),
-      property<&C::Gbarcode>("Gbarcode", "GBarcode"),
-      property<&C::Gname>("Gname", "GName"),
-      property<&C::Class>("Class", "Class"),
-      property<&C::Model1>("Model1", "Model1"),
-      property<&C::Model2>("Model2", "Model2"),
-      property<&C::Unit>("Unit", "unit"),
+      goods_members(),
       property<&C::UQty>("UQty", "UQty"),
       property<&C::Qty>("Qty", "qty"),
       property<&C::Actualqty>("Actualqty", "Actualqty"),

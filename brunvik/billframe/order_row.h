@@ -3,17 +3,12 @@
 
 #include <string>
 
-#include "brunvik/foundation/members.h"
+#include "brunvik/billframe/goods_row.h"
 
 namespace brunvik {
 
-class OrderRow : public PublicObject {
+class OrderRow : public GoodsRow {
  public:
-  // The number of the order and the position in it. The host gives each row a position of its own.
-  std::string BillId;
-  Integer Rownum = 0;
-  std::string Gid, Gbarcode, Gname, Class, Model1, Model2;
-  std::string Unit;
   // The quantity ordered, in the unit of the row.
   Single UQty = 0;
   // The quantity ordered that what has come or gone is compared with.

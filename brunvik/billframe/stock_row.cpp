@@ -5,15 +5,7 @@ namespace brunvik {
 const Members& StockRow::table() {
   using C = StockRow;
   static const Members table{
-      property<&C::BillId>("BillId", "BillId"),
-      property<&C::Rownum>("Rownum", "RowNum"),
-      property<&C::Gid>("Gid", "GId"),
-      property<&C::Gbarcode>("Gbarcode", "GBarcode"),
-      property<&C::Gname>("Gname", "GName"),
-      property<&C::Class>("Class", "Class"),
-      property<&C::Model1>("Model1", "Model1"),
-      property<&C::Model2>("Model2", "Model2"),
-      property<&C::Unit>("Unit", "unit"),
+      goods_members(),
       property<&C::Qty>("Qty", "qty"),
       property<&C::Actualqty>("Actualqty", "ActualQty"),
       property<&C::price>("price", "price"),

@@ -3,18 +3,12 @@
 
 #include <string>
 
-#include "brunvik/foundation/members.h"
+#include "brunvik/billframe/goods_row.h"
 
 namespace brunvik {
 
-class StockRow : public PublicObject {
+class StockRow : public GoodsRow {
  public:
-  // The number of the bill and the position in it. The host gives each row a position of its own.
-  std::string BillId;
-  Integer Rownum = 0;
-  std::string Gid, Gbarcode, Gname, Class, Model1, Model2;
-  // The unit of the quantities of this row.
-  std::string Unit;
   Single Qty = 0;
   Single Actualqty = 0;
   // For one unit of the row.

@@ -3,19 +3,13 @@
 
 #include <string>
 
-#include "brunvik/foundation/members.h"
+#include "brunvik/billframe/goods_row.h"
 
 namespace brunvik {
 
 // A row of a loan or of its return, kept in GBorrowItems.
-class BorrowRow final : public PublicObject {
+class BorrowRow final : public GoodsRow {
  public:
-  // The number of the document and the position in it. The host gives each row a position of its own.
-  std::string BillId;
-  Integer Rownum = 0;
-  std::string Gid, Gbarcode, Gname, Class, Model1, Model2;
-  // The unit of the quantity.
-  std::string Unit;
   // What is lent, borrowed or returned.
   Single Uqty = 0;
   // What of it has been returned, bought or sold. A save writes what stands here.

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "brunvik/foundation/error_trap.h"
-#include "brunvik/foundation/late_binding.h"
+#include "brunvik/settlement/voucher_members.h"
 #include "brunvik/settlement/voucher_status.h"
 
 namespace brunvik {
@@ -37,28 +37,16 @@ const Members& clsSendGoodsVouchersbill::members() const {
       property<&C::Ccompany>("Ccompany", "Ccompany"),
       property<&C::Paidamount>("Paidamount", "Paidamount"),
       property<&C::Amount>("Amount", "Amount"),
-      property<&C::Status>("Status", "Status").required(),
-      property<&C::Creator>("Creator", "Creator"),
-      property<&C::Createtime>("Createtime", "Createtime"),
-      property<&C::Auditor>("Auditor", "Auditor"),
-      property<&C::Audittime>("Audittime", "Audittime"),
+      voucher_marks<C>(),
       property<&C::Remarks>("Remarks", "Remarks"),
       property<&C::Sxfbl>("Sxfbl", "Sxfbl"),
       property<&C::Sxfzd>("Sxfzd", "Sxfzd"),
       property<&C::Dszh>("Dszh", "Dszh"),
       verb<&C::Save>("Save"),
       verb<&C::SaveAsDraft>("SaveAsDraft"),
-      verb<&C::LoadById>("LoadById", in_out("BID")),
-      verb<&C::Delete>("Delete"),
-      verb<&C::LoadLast>("LoadLast"),
-      verb<&C::LoadNext>("LoadNext"),
-      verb<&C::LoadPreviou>("LoadPreviou"),
-      verb<&C::GetPreviousId>("GetPreviousId", in("CurBillID"), out("PreviousId")),
-      verb<&C::GetLastId>("GetLastId", out("LastId")),
-      verb<&C::GetNextId>("GetNextId", in("CurBillID"), out("NextId")),
+      voucher_reading<C>(),
       verb<&C::GetNewId>("GetNewId", out("BID")),
-      verb<&C::Audite>("Audite", optional(in_out("Auditor"), ""), optional(in_out("Audittime"), "")),
-      verb<&C::UndoAudite>("UndoAudite"),
+      voucher_audit<C>(),
   };
   return table;
 }

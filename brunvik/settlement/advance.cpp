@@ -3,8 +3,8 @@
 #include <array>
 
 #include "brunvik/foundation/error_trap.h"
-#include "brunvik/foundation/late_binding.h"
 #include "brunvik/foundation/sql_text.h"
+#include "brunvik/settlement/voucher_members.h"
 
 namespace brunvik {
 
@@ -30,11 +30,7 @@ const Members& Advance::table() {
       property<&C::Paidamount>("Paidamount", "Paidamount"),
       property<&C::Amount>("Amount", "Amount"),
       property<&C::Nowpay>("Nowpay", "Nowpay"),
-      property<&C::Status>("Status", "Status").required(),
-      property<&C::Creator>("Creator", "Creator"),
-      property<&C::Createtime>("Createtime", "Createtime"),
-      property<&C::Auditor>("Auditor", "Auditor"),
-      property<&C::Audittime>("Audittime", "Audittime"),
+      voucher_marks<C>(),
       property<&C::Referflag>("Referflag", "Referflag"),
       property<&C::Referbillid>("Referbillid", "Referbillid"),
       property<&C::Summary>("Summary", "Summary"),
@@ -42,17 +38,9 @@ const Members& Advance::table() {
       property<&C::Remarks>("Remarks", "Remarks"),
       verb<&C::Save>("Save"),
       verb<&C::SaveAsDraft>("SaveAsDraft"),
-      verb<&C::LoadById>("LoadById", in_out("BID")),
-      verb<&C::Delete>("Delete"),
-      verb<&C::LoadLast>("LoadLast"),
-      verb<&C::LoadNext>("LoadNext"),
-      verb<&C::LoadPreviou>("LoadPreviou"),
-      verb<&C::GetPreviousId>("GetPreviousId", in("CurBillID"), out("PreviousId")),
-      verb<&C::GetLastId>("GetLastId", out("LastId")),
-      verb<&C::GetNextId>("GetNextId", in("CurBillID"), out("NextId")),
+      voucher_reading<C>(),
       verb<&C::GetNewId>("GetNewId", out("BID")),
-      verb<&C::Audite>("Audite", optional(in_out("Auditor"), ""), optional(in_out("Audittime"), "")),
-      verb<&C::UndoAudite>("UndoAudite"),
+      voucher_audit<C>(),
   };
   return table;
 }

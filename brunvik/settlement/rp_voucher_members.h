@@ -1,7 +1,7 @@
 // The member table of both vouchers; they differ in the staff member who handled the money.
 #pragma once
 
-#include "brunvik/foundation/late_binding.h"
+#include "brunvik/settlement/voucher_members.h"
 
 namespace brunvik {
 
@@ -19,26 +19,14 @@ Members rp_voucher_members(std::string_view manager_name) {
       property<&C::Amount>("Amount", "Amount"),
       computed<&C::DiscountAmount>("DiscountAmount"),
       property<&C::Nowpay>("Nowpay", "Nowpay"),
-      property<&C::Status>("Status", "Status").required(),
-      property<&C::Creator>("Creator", "Creator"),
-      property<&C::Createtime>("Createtime", "Createtime"),
-      property<&C::Auditor>("Auditor", "Auditor"),
-      property<&C::Audittime>("Audittime", "Audittime"),
+      voucher_marks<C>(),
       property<&C::Referflag>("Referflag", "Referflag"),
       property<&C::Referbillid>("Referbillid", "Referbillid"),
       property<&C::Summary>("Summary", "Summary"),
       property<&C::Remarks>("Remarks", "Remarks"),
       verb<&C::GetNewId>("GetNewId", out("BID")),
-      verb<&C::LoadById>("LoadById", in_out("BID")),
-      verb<&C::Delete>("Delete"),
-      verb<&C::LoadLast>("LoadLast"),
-      verb<&C::LoadNext>("LoadNext"),
-      verb<&C::LoadPreviou>("LoadPreviou"),
-      verb<&C::GetPreviousId>("GetPreviousId", in("CurBillID"), out("PreviousId")),
-      verb<&C::GetLastId>("GetLastId", out("LastId")),
-      verb<&C::GetNextId>("GetNextId", in("CurBillID"), out("NextId")),
-      verb<&C::Audite>("Audite", optional(in_out("Auditor"), ""), optional(in_out("Audittime"), "")),
-      verb<&C::UndoAudite>("UndoAudite"),
+      voucher_reading<C>(),
+      voucher_audit<C>(),
       verb<&C::Save>("Save"),
       verb<&C::SaveAsDraft>("SaveAsDraft"),
   };

@@ -1,0 +1,41 @@
+// The groups that stand alike in the member tables of the vouchers, of the advances and of what is shaped like them.
+#pragma once
+
+#include "brunvik/foundation/late_binding.h"
+
+namespace brunvik {
+
+// Its status, and by whom and when it was made and audited.
+template <class C>
+MemberGroup voucher_marks() {
+  return {
+      property<&C::Status>("Status", "Status").required(),  property<&C::Creator>("Creator", "Creator"),
+      property<&C::Createtime>("Createtime", "Createtime"), property<&C::Auditor>("Auditor", "Auditor"),
+      property<&C::Audittime>("Audittime", "Audittime"),
+  };
+}
+
+// Reading, deleting and walking.
+template <class C>
+MemberGroup voucher_reading() {
+  return {
+      verb<&C::LoadById>("LoadById", in_out("BID")),
+      verb<&C::Delete>("Delete"),
+      verb<&C::LoadLast>("LoadLast"),
+      verb<&C::LoadNext>("LoadNext"),
+      verb<&C::LoadPreviou>("LoadPreviou"),
+      verb<&C::GetPreviousId>("GetPreviousId", in("CurBillID"), out("PreviousId")),
+      verb<&C::GetLastId>("GetLastId", out("LastId")),
+      verb<&C::GetNextId>("GetNextId", in("CurBillID"), out("NextId")),
+  };
+}
+
+template <class C>
+MemberGroup voucher_audit() {
+  return {
+      verb<&C::Audite>("Audite", optional(in_out("Auditor"), ""), optional(in_out("Audittime"), "")),
+      verb<&C::UndoAudite>("UndoAudite"),
+  };
+}
+
+}  // namespace brunvik
