@@ -59,6 +59,12 @@ Long trap(std::string_view tag, Body&& body, std::string_view title = notice_tit
   }
 }
 
+// With a tag or, where that is empty, without.
+template <class Body>
+Long trap_telling(std::string_view tag, Body&& body) noexcept {
+  return tag.empty() ? trap(std::forward<Body>(body)) : trap(tag, std::forward<Body>(body));
+}
+
 // A worker with a tag of its own inside of a verb: an error shows the notice here, once, and ends the verb.
 template <class Body>
 void worker(std::string_view tag, Body&& body) {

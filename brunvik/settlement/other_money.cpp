@@ -155,7 +155,7 @@ Long OtherMoneyDocument::UpdateAudited() noexcept { return change_status(true); 
 Long OtherMoneyDocument::CancelAudited() noexcept { return change_status(false); }
 
 Long OtherMoneyDocument::change_status(bool audited) noexcept {
-  const auto change = [&] {
+  return trap_telling(audited ? audit_tag() : undo_tag(), [&] {
     if (ID.empty()) throw Stop{result_without_id};
     const auto stored = execute(sql(form().statements.select_header, ID));
     if (stored.at_end() || (stored.value("Status").as_long() == status::audited) == audited) return;
@@ -164,9 +164,7 @@ Long OtherMoneyDocument::change_status(bool audited) noexcept {
         sql("update OthersIEBill set Status = {},Auditor = {},AuditTime = {} where Id={}", to, Auditor, Audittime, ID));
     const std::string voucher = stored.value("Nowpaybillid").joined_text();
     audited ? audit_money(voucher) : undo_money(voucher);
-  };
-  const std::string_view tag = audited ? audit_tag() : undo_tag();
-  return tag.empty() ? trap(change) : trap(tag, change);
+  });
 }
 
 void OtherReceivable::audit_money(const std::string& voucher) const { audit_voucher<clsReceiptBill>(voucher); }

@@ -13,12 +13,6 @@ namespace brunvik {
 
 namespace {
 
-// Told under a tag, or not told at all.
-template <class Body>
-Long trap_telling(std::string_view tag, Body&& body) noexcept {
-  return tag.empty() ? trap(body) : trap(tag, body);
-}
-
 // A date with or without its time in the form in which the books keep it; any other text as it stands.
 std::string as_timestamp(const std::string& text) {
   std::string stamp = text;
