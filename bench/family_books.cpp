@@ -44,7 +44,9 @@ std::string value_of(const schema::Column& column, bool is_first) {
   if (is_one_of(column.name, other_bills)) return "'JHR'||number";
   if (same_name(column.name, "Status")) return "3-today";
   switch (column.type) {
+    case schema::Type::Key:
     case schema::Type::Text:
+    case schema::Type::Memo:
       return "'K'||n%1000";
     case schema::Type::Date:
       return "day||' 09:30:00'";

@@ -1,4 +1,5 @@
 // The brunvik command: a host without screens.
+#include <fmt/format.h>
 #include <unistd.h>
 
 #include <CLI/CLI.hpp>
@@ -54,6 +55,19 @@ std::string no_time(const std::string& text) {
   } catch (const ado::RuntimeError&) {
     return "it takes a time like \"2024-03-05 10:00:00\"";
   }
+}
+
+std::vector<std::string> names_of_engines() {
+  std::vector<std::string> names;
+  for (const schema::NamedEngine& engine : schema::engines()) names.emplace_back(engine.name);
+  return names;
+}
+
+// Empty for the name of an engine, else what is wrong with it.
+std::string no_engine(const std::string& name) {
+  const std::vector<std::string> names = names_of_engines();
+  if (std::ranges::find(names, name) != names.end()) return {};
+  return "there is no engine '" + name + "'; " + host::instead(name, names);
 }
 
 void add_session_options(CLI::App& command, Options& options, const std::string& otherwise) {
@@ -139,7 +153,8 @@ int describe_command(const Options& options) {
 int schema_command(const Options& options) {
   std::vector<std::string> statements;
   if (options.database.empty()) {
-    statements = schema::statements(schema::Engine::sqlite);
+    const auto engine = std::ranges::find(schema::engines(), options.engine, &schema::NamedEngine::name);
+    statements = schema::statements(engine->engine);
   } else {
     const auto database = host::open_database(options.database, false);
     statements = options.apply ? host::add_what_is_lacking(*database) : host::lacking_statements(*database);
@@ -192,8 +207,12 @@ int parsed_and_carried_out(int count, char** words) {
   describe.add_flag("--json", options.json, "As one JSON value; a line each unless given");
 
   CLI::App& schema = *app.add_subcommand("schema", "Prints the statements that lay the tables");
-  CLI::Option* engine = schema.add_option("--engine", options.engine, "The database engine: sqlite")
-                            ->check(CLI::IsMember(std::vector<std::string>{"sqlite"}));
+  CLI::Option* engine = schema
+                            .add_option("--engine", options.engine,
+                                        fmt::format("The engine that runs them, {}; sqlite unless given",
+                                                    fmt::join(names_of_engines(), ", ")))
+                            ->type_name("NAME")
+                            ->check(CLI::Validator(no_engine, ""));
   CLI::Option* database = schema.add_option("--db", options.database, "Prints only what this database lacks")
                               ->type_name("URL")
                               ->excludes(engine);

@@ -49,11 +49,6 @@ std::vector<std::string> options_of(const CLI::App& command) {
   return names;
 }
 
-std::string instead(std::string_view word, const std::vector<std::string>& names) {
-  const std::string_view near = nearest(word, names);
-  return near.empty() ? fmt::format("there is {}", fmt::join(names, ", ")) : fmt::format("did you mean {}?", near);
-}
-
 }  // namespace
 
 std::string_view nearest(std::string_view word, const std::vector<std::string>& names) {
@@ -68,6 +63,11 @@ std::string_view nearest(std::string_view word, const std::vector<std::string>& 
     }
   }
   return near;
+}
+
+std::string instead(std::string_view word, const std::vector<std::string>& names) {
+  const std::string_view near = nearest(word, names);
+  return near.empty() ? fmt::format("there is {}", fmt::join(names, ", ")) : fmt::format("did you mean {}?", near);
 }
 
 std::string bad_usage(const CLI::App& command, const std::string& reason) {

@@ -21,6 +21,9 @@ inline constexpr const char* usage_footer =
 // case. Empty where none is near.
 std::string_view nearest(std::string_view word, const std::vector<std::string>& names);
 
+// What to say instead of a word that there isn't: the nearest name, or all of them.
+std::string instead(std::string_view word, const std::vector<std::string>& names);
+
 // Why the parsed words are no right ones. A subcommand or an option that there isn't is named, with the nearest right
 // one or with all; for anything else it is the reason given.
 std::string bad_usage(const CLI::App& command, const std::string& reason);

@@ -4,52 +4,12 @@
 #include <functional>
 #include <stdexcept>
 
+#include "schema/engine_words.h"
 #include "schema/tables.h"
 
 namespace brunvik::schema {
 
 namespace {
-
-// How an engine declares a column of a type. All that differs from engine to engine stands here.
-struct Declaration {
-  std::string_view words;
-  std::string_view check = {};  // what a value must fulfil, {} being the column; empty: the engine sees to it
-};
-
-// SQLite stores whatever it is given, so a column of numbers must refuse the rest itself. The words are what
-// the driver reads a column's type back from; their affinities turn a number in quotes into a number. The
-// checks cost next to nothing, as long as no list in them is longer than two: SQLite builds a table for a
-// longer one, which makes an insert three times as slow.
-Declaration sqlite(Type type) {
-  constexpr std::string_view whole = "{} IS NULL OR typeof({}) = 'integer'";
-  constexpr std::string_view number = "typeof({}) NOT IN ('text', 'blob')";
-  switch (type) {
-    case Type::Text:
-    case Type::Date:
-      return {"TEXT COLLATE NOCASE"};
-    case Type::Byte:
-      return {"TINYINT", whole};
-    case Type::Integer:
-      return {"SMALLINT", whole};
-    case Type::Long:
-      return {"INTEGER", whole};
-    case Type::Boolean:
-      return {"BIT", whole};
-    case Type::Single:
-      return {"REAL", number};
-    case Type::Money:
-      return {"MONEY", number};
-  }
-  return {};
-}
-
-Declaration declaration(Engine engine, Type type) {
-  switch (engine) {
-    case Engine::sqlite:
-      return sqlite(type);
-  }
-  return {};
-}
 
 std::string replaced(std::string text, std::string_view from, std::string_view to) {
   for (std::size_t place = 0; (place = text.find(from, place)) != std::string::npos; place += to.size()) {
@@ -58,52 +18,46 @@ std::string replaced(std::string text, std::string_view from, std::string_view t
   return text;
 }
 
-std::string column_definition(Engine engine, const Table& table, const Column& column) {
-  const Declaration declared = declaration(engine, column.type);
-  std::string text(column.name);
-  text.append(" ").append(declared.words);
-  if (column.name == table.key) text.append(" NOT NULL PRIMARY KEY");
+// One name, or several separated by ", ".
+std::string quoted(const EngineWords& words, std::string_view names) {
+  const std::string between = std::string(words.closing_quote) + ", " + std::string(words.opening_quote);
+  return std::string(words.opening_quote) + replaced(std::string(names), ", ", between) +
+         std::string(words.closing_quote);
+}
+
+std::string column_definition(const EngineWords& words, const Table& table, const Column& column) {
+  const Declaration declared = words.declaration(column.type);
+  const std::string name = quoted(words, column.name);
+  std::string text = name + " " + std::string(declared.words);
+  text.append(column.name == table.key ? words.key : words.no_key);
   if (!column.initial.empty()) text.append(" DEFAULT ").append(column.initial);
-  if (!declared.check.empty()) {
-    text.append(" CHECK (").append(replaced(std::string(declared.check), "{}", column.name)).append(")");
-  }
+  if (!declared.check.empty()) text += " CHECK (" + replaced(std::string(declared.check), "{}", name) + ")";
   return text;
 }
 
-std::string create_table(Engine engine, const Table& table) {
-  std::string text = "CREATE TABLE " + std::string(table.name) + " (";
+std::string own_column_definition(const EngineWords& words, const OwnColumn& column) {
+  return quoted(words, column.name) + " " + column.definition;
+}
+
+std::string create_table(const EngineWords& words, const Table& table) {
+  std::string text = "CREATE TABLE " + quoted(words, table.name) + " (";
   std::string_view separator = "\n  ";
-  for (const Column& column : table.columns) {
-    text.append(separator).append(column_definition(engine, table, column));
+  const auto put = [&](const std::string& definition) {
+    text.append(separator).append(definition);
     separator = ",\n  ";
-  }
-  return text + "\n)";
+  };
+  for (const Column& column : table.columns) put(column_definition(words, table, column));
+  for (const OwnColumn& column : words.own_columns(table)) put(own_column_definition(words, column));
+  return text + "\n)" + std::string(words.table_end);
 }
 
-std::string add_column(Engine engine, const Table& table, const Column& column) {
-  const std::string name(table.name);
-  if (column.name == table.key) {
-    throw std::runtime_error("the table " + name + " lacks its key " + std::string(column.name) +
-                             ", which can't be added to it");
-  }
-  return "ALTER TABLE " + name + " ADD COLUMN " + column_definition(engine, table, column);
-}
-
-struct IndexParts {
-  std::string columns;
-  std::string condition;
-};
-
-IndexParts parts_of(std::string_view index) {
-  constexpr std::string_view where = " where ";
-  const auto condition = index.find(where);
-  if (condition == std::string_view::npos) return {std::string(index), {}};
-  return {std::string(index.substr(0, condition)), std::string(index.substr(condition + where.size()))};
+std::string add_column(const EngineWords& words, const Table& table, const std::string& definition) {
+  return "ALTER TABLE " + quoted(words, table.name) + " " + std::string(words.add) + definition;
 }
 
 // By the columns alone: an older index over all rows answers whatever one over some of them does.
-std::string index_name(const Table& table, std::string_view index) {
-  std::string name = std::string(table.name) + "_" + replaced(parts_of(index).columns, ", ", "_");
+std::string index_name(const Table& table, const Index& index) {
+  std::string name = std::string(table.name) + "_" + replaced(index.columns, ", ", "_");
   // Of an expression its words.
   std::erase(name, ')');
   std::ranges::replace_if(
@@ -111,11 +65,10 @@ std::string index_name(const Table& table, std::string_view index) {
   return name;
 }
 
-std::string create_index(const Table& table, std::string_view index) {
-  const auto [columns, condition] = parts_of(index);
-  std::string text =
-      "CREATE INDEX " + index_name(table, index) + " ON " + std::string(table.name) + " (" + columns + ")";
-  if (!condition.empty()) text += " WHERE " + condition;
+std::string create_index(const EngineWords& words, const Table& table, const Index& index) {
+  std::string text = "CREATE INDEX " + quoted(words, index_name(table, index)) + " ON " + quoted(words, table.name) +
+                     " (" + quoted(words, index.columns) + ")";
+  if (!index.condition.empty()) text += " WHERE " + index.condition;
   return text;
 }
 
@@ -128,11 +81,42 @@ bool has(const std::vector<std::string>& names, std::string_view name) {
   return std::ranges::any_of(names, [name](const std::string& other) { return same_name(name, other); });
 }
 
+// Appends what adds the columns that a table lacks.
+void add_columns(const EngineWords& words, const Table& table, const LaidTable& there, std::vector<std::string>& list) {
+  for (const Column& column : table.columns) {
+    if (has(there.columns, column.name)) continue;
+    if (column.name == table.key) {
+      throw std::runtime_error("the table " + std::string(table.name) + " lacks its key " + std::string(column.name) +
+                               ", which can't be added to it");
+    }
+    std::string definition = column_definition(words, table, column);
+    if (!column.initial.empty()) definition += words.initial_for_rows;
+    list.push_back(add_column(words, table, definition));
+    if (words.updates_rows && !column.initial.empty()) {
+      list.push_back("UPDATE " + quoted(words, table.name) + " SET " + quoted(words, column.name) + " = " +
+                     std::string(column.initial));
+    }
+  }
+  for (const OwnColumn& column : words.own_columns(table)) {
+    if (has(there.columns, column.name) || has(there.indexes, column.needless_with)) continue;
+    list.push_back(add_column(words, table, own_column_definition(words, column)));
+  }
+}
+
 }  // namespace
+
+std::span<const NamedEngine> engines() {
+  static constexpr NamedEngine all[] = {{"sqlite", Engine::sqlite},
+                                        {"mariadb", Engine::mariadb},
+                                        {"sqlserver", Engine::sqlserver},
+                                        {"access", Engine::access}};
+  return all;
+}
 
 std::vector<std::string> statements(Engine engine) { return lacking_statements(engine, {}); }
 
 std::vector<std::string> lacking_statements(Engine engine, std::span<const LaidTable> laid) {
+  const EngineWords& words = words_of(engine);
   const LaidTable nothing;
   std::vector<std::string> list;
   for (const Table& table : tables()) {
@@ -140,12 +124,13 @@ std::vector<std::string> lacking_statements(Engine engine, std::span<const LaidT
         std::ranges::find_if(laid, [&](const LaidTable& other) { return same_name(table.name, other.name); });
     const bool is_there = found != laid.end();
     const LaidTable& there = is_there ? *found : nothing;
-    if (!is_there) list.push_back(create_table(engine, table));
-    for (const Column& column : table.columns) {
-      if (is_there && !has(there.columns, column.name)) list.push_back(add_column(engine, table, column));
+    if (is_there) {
+      add_columns(words, table, there, list);
+    } else {
+      list.push_back(create_table(words, table));
     }
-    for (const std::string_view index : table.indexes) {
-      if (!has(there.indexes, index_name(table, index))) list.push_back(create_index(table, index));
+    for (const Index& index : words.indexes(table)) {
+      if (!has(there.indexes, index_name(table, index))) list.push_back(create_index(words, table, index));
     }
   }
   return list;

@@ -3,16 +3,26 @@
 
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace brunvik::schema {
 
-enum class Engine { sqlite };
+enum class Engine { sqlite, mariadb, sqlserver, access };
+
+struct NamedEngine {
+  std::string_view name;
+  Engine engine;
+};
+
+// All engines, by the names that a host calls them by.
+std::span<const NamedEngine> engines();
 
 // One statement an element, without a closing semicolon, in an order in which an empty database can run them.
 std::vector<std::string> statements(Engine engine);
 
-// A table as a database has it. Names are compared without regard to case.
+// A table as a database has it. Names are compared without regard to case. Of MariaDB the columns that `select *`
+// doesn't show are named too, and a primary key by the name of its index, PRIMARY.
 struct LaidTable {
   std::string name;
   std::vector<std::string> columns;

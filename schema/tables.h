@@ -9,8 +9,12 @@
 
 namespace brunvik::schema {
 
+// Texts are compared without regard to case and to trailing blanks. How long one may be that isn't a Memo, an engine
+// says, where it wants to know.
 enum class Type {
-  Text,     // compared without regard to case and to trailing blanks
+  Key,      // a text that is looked for or stands in an index: a number, an id, a class, a model, a unit
+  Text,     // one line: a name, an address, a code of the host
+  Memo,     // remarks of any length
   Date,     // the text in which the host gave the date
   Byte,     // 8 bits
   Integer,  // 16 bits
@@ -30,9 +34,11 @@ struct Table {
   std::string_view name;
   std::span<const Column> columns;
   std::string_view key = {};  // the key column; empty: none
-  // The columns or expressions of one index each, separated by ", "; behind " where " the condition of the rows that
-  // stand in it.
+  // The columns of one index each, separated by ", "; behind " where " the condition of the rows that are looked for in
+  // it: an engine may leave out the others.
   std::span<const std::string_view> indexes = {};
+  // The Key whose highest number is asked for, as the number that its text stands for; empty: none.
+  std::string_view numbered = {};
 };
 
 // All tables, master data first. The description lives as long as the process.

@@ -11,7 +11,7 @@ using enum Type;
 // clang-format off
 
 constexpr Column shipment[] = {
-    {"Id", Text},
+    {"Id", Key},
     {"Receiveunit", Text},
     {"Receiver", Text},
     {"Receiveaddress", Text},
@@ -27,7 +27,7 @@ constexpr Column shipment[] = {
     {"Bankaccount", Text},
     {"Receiptmoney", Money, zero},
     {"Sendgoodsdate", Date},
-    {"Remarks", Text},
+    {"Remarks", Memo},
     {"Operater", Text},
     {"Operatedate", Date},
     {"YFZFZH", Text},
@@ -36,35 +36,35 @@ constexpr Column shipment[] = {
 };
 
 constexpr Column shipment_goods[] = {
-    {"Billid", Text},
+    {"Billid", Key},
     {"Rownum", Integer},
     {"Gstutas", Long},
     {"Businessclass", Text},  // a code of the host
-    {"Gid", Text},
+    {"Gid", Key},
     {"Gbarcode", Text},
     {"Gname", Text},
-    {"Class", Text},
-    {"Model1", Text},
-    {"Model2", Text},
-    {"Unit", Text},
+    {"Class", Key},
+    {"Model1", Key},
+    {"Model2", Key},
+    {"Unit", Key},
     {"Qty", Single},
     {"Price", Money, zero},
     {"Amount", Money, zero},
-    {"Supplier", Text},
-    {"Receiver", Text},
+    {"Supplier", Key},
+    {"Receiver", Key},
     {"Outfactorydate", Date},
     {"Equipcode", Text},
     {"Buydate", Date},
-    {"Accessory", Text},
-    {"Remarks", Text},
-    {"Bid", Text},
+    {"Accessory", Memo},
+    {"Remarks", Memo},
+    {"Bid", Key},
     {"BType", Long},
     {"BillDate", Date},
 };
 
 constexpr Column shipment_bills[] = {
-    {"Billid", Text},
-    {"Bid", Text},
+    {"Billid", Key},
+    {"Bid", Key},
     {"DYType", Long},
     {"Closeamount", Money, zero},
     {"Paidamount", Money, zero},
@@ -72,17 +72,17 @@ constexpr Column shipment_bills[] = {
     {"Createtime", Date},
     {"Auditor", Text},
     {"Audittime", Date},
-    {"Remarks", Text},
+    {"Remarks", Memo},
     {"DJBJ", Integer, zero},
     {"SKLX", Integer, zero},
 };
 constexpr std::string_view shipment_bills_indexes[] = {"Billid, Bid"};
 
 constexpr Column freight_bill[] = {
-    {"Id", Text},
-    {"Manualid", Text},
+    {"Id", Key},
+    {"Manualid", Key},
     {"Manager", Text},
-    {"Ccompany", Text},
+    {"Ccompany", Key},
     {"Paidamount", Money, zero},
     {"Amount", Money, zero},
     {"Status", Long},
@@ -93,20 +93,20 @@ constexpr Column freight_bill[] = {
     {"Sxfbl", Long},
     {"Sxfzd", Long},
     {"Dszh", Text},
-    {"Remarks", Text},
+    {"Remarks", Memo},
 };
 
 constexpr Column freight_bill_items[] = {
-    {"BID", Text},
+    {"BID", Key},
     {"RowNum", Integer},
-    {"RPableBID", Text},
+    {"RPableBID", Key},
     {"Amount", Money, zero},
     {"Paidamount", Money, zero},
-    {"Ccompany", Text},
+    {"Ccompany", Key},
     {"Fhtime", Date},
-    {"Remarks", Text},
-    {"ReceptId", Text},
-    {"PayId", Text},
+    {"Remarks", Memo},
+    {"ReceptId", Key},
+    {"PayId", Key},
 };
 constexpr std::string_view freight_bill_items_indexes[] = {"BID, RowNum"};
 

@@ -11,18 +11,18 @@ using enum Type;
 // clang-format off
 
 constexpr Column basic_config[] = {
-    {"keyname", Text},
+    {"keyname", Key},
     {"keyvalue", Text},
 };
 
 // One row for each class and models of a goods id, so the id alone is no key.
 constexpr Column goods[] = {
-    {"id", Text},
+    {"id", Key},
     {"Gname", Text},
-    {"Class", Text},
+    {"Class", Key},
     {"Enabled", Boolean},
     {"GType", Text},
-    {"Unit", Text},
+    {"Unit", Key},
     {"Price", Money},
     {"Purchaseprice", Money},
     {"RetailPrice", Money},
@@ -30,10 +30,10 @@ constexpr Column goods[] = {
     {"Mnemonic", Text},
     {"MaxInventory", Single},
     {"ShelfLife", Long},
-    {"Model1", Text},
-    {"Model2", Text},
+    {"Model1", Key},
+    {"Model2", Key},
     {"UnitConverter", Money},
-    {"MinUnit", Text},
+    {"MinUnit", Key},
     {"PriceA", Money},
     {"PriceB", Money},
     {"PriceC", Money},
@@ -44,25 +44,25 @@ constexpr Column goods[] = {
     {"Brand", Text},
     {"Barcode", Text},
     {"AverageCost", Money, zero},
-    {"TecParameters", Text},
+    {"TecParameters", Memo},
     {"GCZYCPFlag", Integer},  // the opening stock takes a null for a flag of its own
 };
 constexpr std::string_view goods_indexes[] = {"id, Class, Model1, Model2"};
 
 constexpr Column goods_unit[] = {
-    {"id", Text},
-    {"Unit", Text},
+    {"id", Key},
+    {"Unit", Key},
     {"UnitConverter", Money},
 };
 constexpr std::string_view goods_unit_indexes[] = {"id, Unit"};
 
 constexpr Column contacts_company[] = {
-    {"id", Text},
+    {"id", Key},
     {"FullName", Text},
 };
 
 constexpr Column warehouse[] = {
-    {"id", Text},
+    {"id", Key},
     {"WName", Text},
 };
 

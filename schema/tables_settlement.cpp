@@ -11,8 +11,8 @@ using enum Type;
 // clang-format off
 
 constexpr Column account[] = {
-    {"ID", Text},
-    {"ZH", Text},
+    {"ID", Key},
+    {"ZH", Key},
     {"KHH", Text},
     {"YE", Money, zero},
     {"ZHLX", Integer},
@@ -20,36 +20,30 @@ constexpr Column account[] = {
 constexpr std::string_view account_indexes[] = {"ZH"};
 
 constexpr Column journal[] = {
-    {"ID", Text},
-    {"ZHID", Text},
-    {"JYZY", Text},
+    {"ID", Key},
+    {"ZHID", Key},
+    {"JYZY", Memo},
     {"JYSJ", Date},
     {"JYJE", Money, zero},
     {"JYFS", Integer},
     {"JYLX", Integer},
-    {"ZCZHID", Text},
-    {"DYID", Text},
+    {"ZCZHID", Key},
+    {"DYID", Key},
     {"CJSJ", Date},
     {"CZY", Text},
     {"JBR", Text},
-    {"DYDJH", Text},
+    {"DYDJH", Key},
     {"XM", Text},
     {"SFKR", Text},
 };
-// The next key is one more than the highest, as a number. The last holds the keys that aren't plain numbers: none, as
-// long as nobody enters one by hand.
-constexpr std::string_view journal_indexes[] = {
-    "DYDJH",
-    "CAST(ID AS INTEGER)",
-    "ID where length(ID) NOT BETWEEN 1 AND 9 OR ID GLOB '*[^0-9]*'",
-};
+constexpr std::string_view journal_indexes[] = {"DYDJH"};
 
 // Vouchers and advances are told apart by their table and their type, and have the same columns.
 constexpr Column voucher[] = {
-    {"Id", Text},
-    {"Manualid", Text},
+    {"Id", Key},
+    {"Manualid", Key},
     {"Manager", Long},
-    {"Ccompany", Text},
+    {"Ccompany", Key},
     {"Type", Long},
     {"Paidamount", Money, zero},
     {"Amount", Money, zero},
@@ -60,74 +54,74 @@ constexpr Column voucher[] = {
     {"Auditor", Text},
     {"Audittime", Date},
     {"Referflag", Long},
-    {"Referbillid", Text},
-    {"Summary", Text},
-    {"Remarks", Text},
+    {"Referbillid", Key},
+    {"Summary", Memo},
+    {"Remarks", Memo},
 };
 
 // The means of payment is a code of the host.
 constexpr Column voucher_money[] = {
-    {"BID", Text},
+    {"BID", Key},
     {"RowNum", Integer},
     {"MeansOfPayment", Long},
     {"kh", Text},
     {"Amount", Money, zero},
-    {"Remarks", Text},
+    {"Remarks", Memo},
 };
 constexpr std::string_view voucher_money_indexes[] = {"BID, RowNum"};
 
 constexpr Column settled_bill[] = {
-    {"BID", Text},
+    {"BID", Key},
     {"RowNum", Integer},
-    {"RPableBID", Text},
+    {"RPableBID", Key},
     {"RPableBType", Byte},
     {"Amount", Money, zero},
-    {"Remarks", Text},
+    {"Remarks", Memo},
 };
 // The second for what other vouchers have settled of the same bill.
 constexpr std::string_view settled_bill_indexes[] = {"BID, RowNum", "RPableBID"};
 
 constexpr Column plans_bill[] = {
-    {"Id", Text},
-    {"CtCompany", Text},
+    {"Id", Key},
+    {"CtCompany", Key},
     {"Manager", Text},
     {"Creator", Text},
     {"CreateTime", Date},
     {"Status", Long},
     {"Amount", Money, zero},
     {"PaidAmount", Money, zero},
-    {"PayBillId", Text},
+    {"PayBillId", Key},
     {"ClosedTag", Boolean, zero},
     {"BillCount", Long},
     {"Type", Long},
     {"StartDate", Date},
     {"Enddate", Date},
     {"ReferFlag", Long},
-    {"ReferBillID", Text},
-    {"Summary", Text},
-    {"Remarks", Text},
+    {"ReferBillID", Key},
+    {"Summary", Memo},
+    {"Remarks", Memo},
 };
 
 constexpr Column plans_bill_items[] = {
-    {"PlanId", Text},
-    {"OTBillId", Text},
+    {"PlanId", Key},
+    {"OTBillId", Key},
     {"BillType", Long},
     {"ClosedBill", Integer},  // 1 or 2, so no Boolean
     {"ClosedAmount", Money, zero},
     {"PaidAmount", Money, zero},
-    {"remarks", Text},
+    {"remarks", Memo},
 };
 
 // The lists are filled by an insert that names no column: the number of the plan is all they may have.
 constexpr Column plan_list[] = {
-    {"PlanId", Text},
+    {"PlanId", Key},
 };
 constexpr std::string_view by_plan[] = {"PlanId"};
 
 constexpr Column others_bill[] = {
-    {"Id", Text},
-    {"ManualId", Text},
-    {"CCompany", Text},
+    {"Id", Key},
+    {"ManualId", Key},
+    {"CCompany", Key},
     {"Manager", Text},
     {"Creator", Text},
     {"CreateTime", Date},
@@ -146,29 +140,29 @@ constexpr Column others_bill[] = {
     {"Discountrate", Single},
     {"Deliverymethod", Byte},
     {"Closedtag", Boolean, zero},
-    {"Nowpaybillid", Text},
+    {"Nowpaybillid", Key},
     {"Referflag", Long},
-    {"Referbillid", Text},
+    {"Referbillid", Key},
     {"Lastupdatetime", Date},
-    {"Summary", Text},
-    {"Remarks", Text},
+    {"Summary", Memo},
+    {"Remarks", Memo},
 };
 
 constexpr Column others_bill_items[] = {
-    {"Billid", Text},
+    {"Billid", Key},
     {"Rownum", Integer},
-    {"Itemid", Text},
+    {"Itemid", Key},
     {"Itemname", Text},
-    {"Unit", Text},
+    {"Unit", Key},
     {"Qty", Single},
     {"Price", Money, zero},
     {"Amount", Money, zero},
-    {"Remarks", Text},
+    {"Remarks", Memo},
 };
 
 constexpr Table family[] = {
     {"ZHXX", account, "ID", account_indexes},
-    {"ZHJYXX", journal, "ID", journal_indexes},
+    {"ZHJYXX", journal, "ID", journal_indexes, "ID"},  // the next key is one more than the highest, as a number
     {"RPVouchers", voucher, "Id", by_type},
     {"RPBItems", voucher_money, "", voucher_money_indexes},
     {"RPBRPItems", settled_bill, "", settled_bill_indexes},

@@ -11,130 +11,130 @@ using enum Type;
 // clang-format off
 
 constexpr Column purchase_order[] = {
-    {"Id", Text},
-    {"ManualId", Text},
-    {"Supplier", Text},
+    {"Id", Key},
+    {"ManualId", Key},
+    {"Supplier", Key},
     {"Purman", Text},
     {"Creator", Text},
     {"CreateTime", Date},
     {"BillCost", Money, zero},
     {"SendClosedtag", Boolean, zero},
     {"ReferFlag", Long},
-    {"Referbillid", Text},
-    {"Summary", Text},
-    {"Remarks", Text},
+    {"Referbillid", Key},
+    {"Summary", Memo},
+    {"Remarks", Memo},
 };
 
 constexpr Column purchase_order_items[] = {
-    {"BillId", Text},
+    {"BillId", Key},
     {"RowNum", Integer},
-    {"GId", Text},
+    {"GId", Key},
     {"GBarcode", Text},
     {"GName", Text},
-    {"Class", Text},
-    {"Model1", Text},
-    {"Model2", Text},
-    {"unit", Text},
+    {"Class", Key},
+    {"Model1", Key},
+    {"Model2", Key},
+    {"unit", Key},
     {"UQty", Single},
     {"qty", Single},
     {"Actualqty", Single, zero},
     {"price", Money, zero},
     {"Amount", Money, zero},
-    {"Supplier", Text},
-    {"remarks", Text},
+    {"Supplier", Key},
+    {"remarks", Memo},
 };
 
 // Which receipt rows fill which order rows.
 constexpr Column purchase_order_list[] = {
-    {"PurOrderId", Text},
-    {"PurInId", Text},
+    {"PurOrderId", Key},
+    {"PurInId", Key},
     {"OrderRownum", Long},
     {"PurRownum", Long},
-    {"Goodsid", Text},
-    {"unit", Text},
+    {"Goodsid", Key},
+    {"unit", Key},
     {"Qty", Single},
 };
 constexpr std::string_view purchase_order_list_indexes[] = {"PurOrderId, PurInId", "PurInId"};
 
 constexpr Column sale_order[] = {
-    {"Id", Text},
-    {"ManualId", Text},
-    {"Receiver", Text},
+    {"Id", Key},
+    {"ManualId", Key},
+    {"Receiver", Key},
     {"Salesman", Text},
     {"Creator", Text},
     {"CreateTime", Date},
     {"BillCost", Money, zero},
     {"SendClosedtag", Boolean, zero},
     {"ReferFlag", Long},
-    {"Referbillid", Text},
-    {"Summary", Text},
-    {"Remarks", Text},
+    {"Referbillid", Key},
+    {"Summary", Memo},
+    {"Remarks", Memo},
 };
 
 constexpr Column sale_order_items[] = {
-    {"BillId", Text},
+    {"BillId", Key},
     {"RowNum", Integer},
-    {"GId", Text},
+    {"GId", Key},
     {"GBarcode", Text},
     {"GName", Text},
-    {"Class", Text},
-    {"Model1", Text},
-    {"Model2", Text},
-    {"unit", Text},
+    {"Class", Key},
+    {"Model1", Key},
+    {"Model2", Key},
+    {"unit", Key},
     {"UQty", Single},
     {"qty", Single},
     {"Actualqty", Single, zero},
     {"price", Money, zero},
     {"Amount", Money, zero},
-    {"Receiver", Text},
-    {"remarks", Text},
+    {"Receiver", Key},
+    {"remarks", Memo},
 };
 
 // Which issue rows fill which order rows.
 constexpr Column sale_out_order_list[] = {
-    {"SaleOrderid", Text},
-    {"SaleOutid", Text},
+    {"SaleOrderid", Key},
+    {"SaleOutid", Key},
     {"OrderRownum", Long},
     {"OutRownum", Long},
-    {"Goodsid", Text},
-    {"unit", Text},
+    {"Goodsid", Key},
+    {"unit", Key},
     {"Qty", Single},
 };
 constexpr std::string_view sale_out_order_list_indexes[] = {"SaleOrderid, SaleOutid", "SaleOutid"};
 
 constexpr Column purchase_share_cost[] = {
-    {"Id", Text},
-    {"Vendors", Text},
+    {"Id", Key},
+    {"Vendors", Key},
     {"Creator", Text},
     {"CreateTime", Date},
     {"BillCost", Money, zero},
-    {"PurChaseBill", Text},
+    {"PurChaseBill", Key},
     {"PurChaseAmount", Money, zero},
     {"ReferFlag", Long},
-    {"ReferBillID", Text},
-    {"Summary", Text},
-    {"Remarks", Text},
+    {"ReferBillID", Key},
+    {"Summary", Memo},
+    {"Remarks", Memo},
 };
 constexpr std::string_view purchase_share_cost_indexes[] = {"PurChaseBill"};
 
 // The manners of sharing are codes of the host: as text they can be a number as well as a word.
 constexpr Column purchase_cost_items[] = {
-    {"BillId", Text},
+    {"BillId", Key},
     {"RowNum", Integer},
-    {"CostId", Text},
+    {"CostId", Key},
     {"CostName", Text},
     {"Amount", Money, zero},
     {"ShareMethod", Text},
-    {"remarks", Text},
+    {"remarks", Memo},
 };
 
 constexpr Column purchase_bill_items[] = {
-    {"Billid", Text},
-    {"CostId", Text},
+    {"Billid", Key},
+    {"CostId", Key},
     {"GRowNum", Integer},
-    {"GId", Text},
+    {"GId", Key},
     {"GoodQty", Single},
-    {"ShareId", Text},
+    {"ShareId", Key},
     {"Sharecost", Money, zero},
     {"ShareMethod", Text},
     {"UseShare", Text},
@@ -142,8 +142,8 @@ constexpr Column purchase_bill_items[] = {
 constexpr std::string_view purchase_bill_items_indexes[] = {"Billid, GRowNum"};
 
 constexpr Column adjust_in_bill[] = {
-    {"Id", Text},
-    {"ManualId", Text},
+    {"Id", Key},
+    {"ManualId", Key},
     {"Manager", Text},
     {"Salesman", Text},
     {"Creator", Text},
@@ -153,15 +153,15 @@ constexpr Column adjust_in_bill[] = {
     {"Auditor", Text},
     {"AuditTime", Date},
     {"ReferFlag", Long},
-    {"Referbillid", Text},
-    {"Summary", Text},
-    {"Remarks", Text},
+    {"Referbillid", Key},
+    {"Summary", Memo},
+    {"Remarks", Memo},
 };
 
 // Which rows of which receipts an arrival takes up.
 constexpr Column adjust_stock_bill[] = {
-    {"AdjustId", Text},
-    {"StockId", Text},
+    {"AdjustId", Key},
+    {"StockId", Key},
     {"RowNum", Long},
     {"Meansofpayment", Long},
     {"Amount", Money, zero},

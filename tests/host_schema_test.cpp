@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "drivers/sqlite/connection.h"
+#include "schema/ddl.h"
 #include "tests/host_process.h"
 
 namespace brunvik::host {
@@ -105,6 +106,17 @@ TEST(HostSchema, What_can_t_be_laid_is_told_and_nothing_else_is_laid_either) {
   EXPECT_EQ(ended.out, "");
   EXPECT_NE(ended.error, "");
   EXPECT_EQ(selected("sqlite:" + path, "select count(*) as n from sqlite_master where type='table'"), "[[1]]");
+}
+
+TEST(HostSchema, The_statements_of_each_engine_are_printed_with_a_semicolon_behind_each) {
+  for (const schema::NamedEngine& engine : schema::engines()) {
+    const Ended ended = brunvik({"schema", "--engine", std::string(engine.name)});
+    EXPECT_EQ(ended.status, 0);
+    EXPECT_EQ(ended.error, "");
+    std::string expected;
+    for (const std::string& statement : schema::statements(engine.engine)) expected += statement + ";\n";
+    EXPECT_EQ(ended.out, expected) << engine.name;
+  }
 }
 
 TEST(HostSchema, A_missing_database_is_not_made) {

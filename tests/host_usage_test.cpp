@@ -49,6 +49,16 @@ TEST(HostUsage, A_wrong_value_is_told_with_its_option) {
             std::string::npos);
 }
 
+TEST(HostUsage, A_wrong_engine_is_told_with_the_nearest_right_one_or_with_all) {
+  const auto told = [](const char* engine) { return brunvik({"schema", "--engine", engine}).error; };
+  EXPECT_TRUE(told("mariabd").starts_with("brunvik: --engine: there is no engine 'mariabd'; did you mean mariadb?\n"));
+  EXPECT_TRUE(
+      told("SQLServer").starts_with("brunvik: --engine: there is no engine 'SQLServer'; did you mean sqlserver?\n"));
+  EXPECT_TRUE(told("paper").starts_with(
+      "brunvik: --engine: there is no engine 'paper'; there is sqlite, mariadb, sqlserver, access\n"))
+      << told("paper");
+}
+
 TEST(HostUsage, A_time_that_is_empty_is_no_time) {
   for (const char* command : {"run", "demo"}) {
     for (const char* time : {"", " ", "soon"}) {
@@ -71,6 +81,7 @@ TEST(HostUsage, The_help_tells_what_holds_where_nothing_is_given) {
     EXPECT_NE(run.find(text), std::string::npos) << text << '\n' << run;
   }
   EXPECT_NE(brunvik({"demo", "--help"}).out.find("a fresh file unless given"), std::string::npos);
+  EXPECT_NE(brunvik({"schema", "--help"}).out.find("sqlite unless given"), std::string::npos);
 }
 
 TEST(HostUsage, A_run_that_refused_a_line_and_went_on_is_status_3) {

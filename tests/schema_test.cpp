@@ -32,7 +32,9 @@ std::string lower(std::string_view text) {
 
 std::string word(Type type) {
   switch (type) {
+    case Type::Key:
     case Type::Text:
+    case Type::Memo:
     case Type::Date:
       return "TEXT";
     case Type::Byte:
@@ -51,7 +53,7 @@ std::string word(Type type) {
   return {};
 }
 
-bool is_text(const Column& column) { return column.type == Type::Text || column.type == Type::Date; }
+bool is_text(const Column& column) { return word(column.type) == "TEXT"; }
 bool is_fraction(const Column& column) { return column.type == Type::Single || column.type == Type::Money; }
 
 // An insert of one value, with a key where the table has one.
