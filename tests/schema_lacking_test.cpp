@@ -63,7 +63,9 @@ TEST(SchemaLacking, A_lacking_table_comes_with_its_indexes_and_nothing_else) {
     std::vector<LaidTable> all = all_as_described();
     std::erase_if(all, [&](const LaidTable& other) { return other.name == table.name; });
     const std::vector<std::string> lacking = lacking_statements(Engine::sqlite, all);
-    ASSERT_EQ(lacking.size(), 1 + table.indexes.size()) << table.name;
+    // The numbers of a column are in an index, and what is no plain number in another.
+    const std::size_t numbers = table.numbered.empty() ? 0 : 2;
+    ASSERT_EQ(lacking.size(), 1 + table.indexes.size() + numbers) << table.name;
     EXPECT_TRUE(lacking.front().starts_with("CREATE TABLE " + std::string(table.name) + " (")) << lacking.front();
     for (std::size_t place = 1; place < lacking.size(); ++place) {
       EXPECT_TRUE(lacking[place].starts_with("CREATE INDEX ")) << lacking[place];
