@@ -102,7 +102,7 @@ class Reader {
     return true;
   }
 
-  Json root_;
+  Json root_ = Json::object();
   // What is open, from the outermost in. Each is the last of the one before it, which gets no more until it is closed.
   std::vector<Json*> open_;
 };

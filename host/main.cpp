@@ -121,6 +121,7 @@ int demo_command(const Options& options) {
   const auto story = std::ranges::find(stories, options.story, &host::Story::name);
   if (story == stories.end()) {
     std::vector<std::string> names;
+    names.reserve(stories.size());
     for (const host::Story& other : stories) names.push_back(other.name);
     const std::string_view near = host::nearest(options.story, names);
     std::cerr << "brunvik: there is no story '" << options.story << "'; "

@@ -216,6 +216,7 @@ std::vector<Value> to_arguments(std::string_view name, const Json& given, const 
   if (!given.is_array()) refuse(error::type_mismatch, "args");
   if (given.size() > parameters.size()) {
     std::vector<std::string_view> names;
+    names.reserve(parameters.size());
     for (const Parameter& parameter : parameters) names.push_back(parameter.name);
     refuse(error::wrong_argument_count, name,
            fmt::format(" takes ({}), {} given", fmt::join(names, ", "), given.size()));
