@@ -218,7 +218,7 @@ TEST(Members, Write_their_value_into_a_statement) {
   member("ID").write_to(statement, object);
   member("Closed").write_to(statement, object);
   member("Anything").write_to(statement, object);
-  EXPECT_EQ(std::move(statement).text(), "'O''Neil'1null");
+  EXPECT_EQ(statement.text(), "'O''Neil'1null");
 }
 
 TEST(RowCollection, Has_positions_from_1_to_its_count) {

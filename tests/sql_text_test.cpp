@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <string_view>
 
+#include "brunvik/ado/numbers.h"
 #include "brunvik/foundation/Brunvik_Variable.h"
 #include "brunvik/foundation/statement_writer.h"
 #include "tests/support/apartment.h"
@@ -21,7 +23,55 @@ TEST(StatementWriter, Keeps_a_statement_of_any_length) {
     statement.add(",");
     expected += "'" + text + "'''" + std::to_string(-piece) + ",";
   }
-  EXPECT_EQ(std::move(statement).text(), expected);
+  EXPECT_EQ(statement.text(), expected);
+}
+
+TEST(StatementWriter, Doubles_an_apostrophe_wherever_it_stands) {
+  for (std::size_t length = 1; length <= 70; ++length) {
+    for (std::size_t place = 0; place < length; ++place) {
+      std::string text(length, 'a');
+      text.replace(place, 1, "'");
+      std::string expected = text;
+      expected.insert(place, "'");
+      StatementWriter statement;
+      statement.add_quoted(text);
+      EXPECT_EQ(statement.text(), "'" + expected + "'");
+      EXPECT_EQ(brunvik::quoted(text), "'" + expected + "'");
+    }
+  }
+}
+
+std::string written(Single number) {
+  StatementWriter statement;
+  statement.add(number);
+  return std::string(statement.text());
+}
+
+std::string shortest(Single number) {
+  std::string text;
+  ado::append_number(text, number);
+  return text;
+}
+
+TEST(StatementWriter, Writes_a_single_as_its_shortest_text) {
+  for (int quarters = -400'003; quarters <= 400'003; quarters += 3) {
+    const Single number = static_cast<Single>(quarters) / 4;
+    EXPECT_EQ(written(number), shortest(number));
+  }
+  for (const Single number : {0.1F, -0.0F, 1e-7F, 0.125F, 99'999.99F, 100'000.25F, 262'144.25F, 1e10F, 3e38F}) {
+    EXPECT_EQ(written(number), shortest(number));
+  }
+}
+
+TEST(Statement, Gives_its_text_as_a_view_and_as_a_string_of_any_length) {
+  for (const std::size_t length : {std::size_t{3}, std::size_t{5'000}}) {
+    const std::string value(length, 'a');
+    const Statement statement = sql("a={}", value);
+    const std::string_view view = statement;
+    const std::string text = statement;
+    EXPECT_EQ(view, "a='" + value + "'");
+    EXPECT_EQ(text, view);
+  }
 }
 
 TEST(SqlText, Puts_each_value_at_its_place) {

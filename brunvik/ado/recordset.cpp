@@ -55,6 +55,7 @@ Recordset::Recordset(std::shared_ptr<const ColumnNames> names, std::vector<Value
     : open_(true), width_(names->list().size()), names_(std::move(names)), cells_(std::move(cells)) {}
 
 void Recordset::Close() noexcept {
+  if (!open_) return;
   open_ = false;
   width_ = 0;
   names_.reset();
@@ -70,8 +71,11 @@ void Recordset::set_active_connection(std::shared_ptr<Connection> connection) {
 void Recordset::Open(std::string_view source) {
   if (!connection_ || connection_->State() == 0) raise(error::connection_closed, source);
   Recordset opened = send(*connection_, source, Road::session);
-  opened.connection_ = std::move(connection_);
-  *this = std::move(opened);
+  open_ = opened.open_;
+  width_ = opened.width_;
+  names_ = std::move(opened.names_);
+  cells_ = std::move(opened.cells_);
+  record_ = 0;
 }
 
 void Recordset::raise_closed() { raise(error::object_closed); }

@@ -43,7 +43,11 @@ Long Value::as_long() const {
   return to_long(as_double());
 }
 
-Integer Value::as_integer() const { return to_integer(as_double()); }
+Integer Value::as_integer() const {
+  if (const auto* number = get_if<Integer>()) return *number;
+  return to_integer(as_double());
+}
+
 Byte Value::as_byte() const { return to_byte(as_double()); }
 
 Single Value::as_single() const {

@@ -1,10 +1,10 @@
 // Reads the rows of a bill out of a set.
 #pragma once
 
-#include <utility>
 #include <vector>
 
 #include "brunvik/ado/recordset.h"
+#include "brunvik/foundation/member_columns.h"
 #include "brunvik/foundation/members.h"
 
 namespace brunvik {
@@ -17,15 +17,13 @@ template <class Row, class Finish>
 void read_rows(RowCollection& rows, ado::Recordset set, const RowMembers& members, Finish&& finish) {
   rows.clear();
   if (set.at_end()) return;
-  std::vector<std::pair<const Member*, ado::Column>> fields;
-  fields.reserve(members.size());
+  const std::vector<MemberColumns::Field> fields = MemberColumns::fields_of(members, set);
   rows.reserve(set.record_count());
-  for (const Member* member : members) fields.emplace_back(member, set.column(member->read_column()));
   for (; !set.at_end(); set.MoveNext()) {
     auto& row = static_cast<Row&>(rows.add());
     try {
       const std::span<const Value> record = set.record();
-      for (const auto& [member, column] : fields) member->read(row, record[static_cast<std::size_t>(column)]);
+      for (const auto& [member, place] : fields) member->read(row, record[place]);
       finish(row, set);
     } catch (...) {
       // A row counts when all of it is read: a voucher must not settle the row whose bill it could not look at.

@@ -7,7 +7,6 @@
 #include "brunvik/ado/names.h"
 #include "brunvik/foundation/Declare_EnumType.h"
 #include "brunvik/foundation/sql_text.h"
-#include "brunvik/foundation/statement_writer.h"
 #include "brunvik/foundation/text.h"
 
 namespace brunvik {
@@ -83,9 +82,13 @@ ColumnStatement::Form ColumnStatement::resolved(Parts parts, const Members& memb
   return form;
 }
 
-std::string ColumnStatement::text(const PublicObject& object, Long status, std::string_view number) const {
+Statement ColumnStatement::text(const PublicObject& object, Long status, std::string_view number) const {
+  return Statement([&](StatementWriter& statement) { write_to(statement, object, status, number); });
+}
+
+void ColumnStatement::write_to(StatementWriter& statement, const PublicObject& object, Long status,
+                               std::string_view number) const {
   const Form& form = status == status::audited ? audited_ : other_;
-  StatementWriter statement;
   for (const Place& place : form.places) {
     statement.add(place.text_before);
     switch (place.kind) {
@@ -110,7 +113,6 @@ std::string ColumnStatement::text(const PublicObject& object, Long status, std::
     }
   }
   statement.add(form.tail);
-  return std::move(statement).text();
 }
 
 std::vector<const Member*> ColumnStatement::members_written() const {

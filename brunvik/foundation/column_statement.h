@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "brunvik/foundation/members.h"
+#include "brunvik/foundation/statement_writer.h"
 
 namespace brunvik {
 
@@ -59,7 +60,7 @@ class ColumnStatement {
  public:
   // The text for an object. `status` picks the form and is the value of a column with an argument; `number` is that of
   // the bill.
-  std::string text(const PublicObject& object, Long status = 0, std::string_view number = {}) const;
+  Statement text(const PublicObject& object, Long status = 0, std::string_view number = {}) const;
 
   // The properties that keep the columns written, but for those with a source that is no property: what an object
   // reads back of what it writes. In the form for any other status than 3.
@@ -80,6 +81,8 @@ class ColumnStatement {
                   Parts (*take_apart)(std::string_view));
 
  private:
+  void write_to(StatementWriter& statement, const PublicObject& object, Long status, std::string_view number) const;
+
   struct Place {
     std::string text_before;
     std::string column;

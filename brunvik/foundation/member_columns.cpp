@@ -1,21 +1,45 @@
 #include "brunvik/foundation/member_columns.h"
 
+#include <algorithm>
+#include <array>
+#include <functional>
+
 namespace brunvik {
 
-const std::vector<std::size_t>& MemberColumns::places_of(const Members& table, const ado::Recordset& set) {
+const std::vector<MemberColumns::Field>& MemberColumns::fields_of(const Members& table, const ado::Recordset& set) {
   thread_local std::vector<MemberColumns> known;
   if (known.size() <= table.number()) known.resize(table.number() + 1);
   MemberColumns& columns = known[table.number()];
-  if (columns.names_ == set.column_names()) return columns.places_;
+  if (columns.table_ == &table && columns.names_ == set.column_names()) return columns.fields_;
+  columns.table_ = &table;
   columns.names_ = set.column_names();
-  columns.places_.clear();
+  columns.fields_.clear();
   for (const Member& member : table) {
     const std::string_view name = member.read_column();
-    columns.places_.push_back(name.empty()    ? none
-                              : set.has(name) ? static_cast<std::size_t>(set.column(name))
-                                              : unknown);
+    if (!name.empty()) columns.fields_.push_back({&member, columns.names_->find(name)});
   }
-  return columns.places_;
+  return columns.fields_;
+}
+
+bool MemberColumns::are_of(std::span<const Member* const> members, const ado::Recordset& set) const {
+  return names_ == set.column_names() && std::ranges::equal(fields_, members, {}, &Field::member);
+}
+
+std::vector<MemberColumns::Field> MemberColumns::fields_of(std::span<const Member* const> members,
+                                                           const ado::Recordset& set) {
+  // The rows of a statement are read into the same members each time, so one list is kept for the names of each.
+  constexpr std::size_t kept = 64;
+  thread_local std::array<MemberColumns, kept> known;
+  MemberColumns& columns = known[std::hash<const void*>()(set.column_names().get()) / alignof(std::max_align_t) % kept];
+  if (!columns.are_of(members, set)) {
+    columns.names_.reset();
+    columns.fields_.clear();
+    for (const Member* member : members) {
+      columns.fields_.push_back({member, static_cast<std::size_t>(set.column(member->read_column()))});
+    }
+    columns.names_ = set.column_names();
+  }
+  return columns.fields_;
 }
 
 }  // namespace brunvik

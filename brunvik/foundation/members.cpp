@@ -39,15 +39,9 @@ void visit_stored(Type type, void* place, Visitor&& visitor) {
   }
 }
 
-// Half of a row's texts are empty, and so are the properties of a row that is filled for the first time.
-inline void assign(std::string& property, const std::string& text) {
-  if (text.empty()) return property.clear();
-  property = text;
-}
-
 void take(std::string& property, const Value& value) {
   if (const auto* text = value.get_if<std::string>()) {
-    assign(property, *text);
+    detail::assign(property, *text);
   } else {
     property = value.as_text();
   }
@@ -68,6 +62,8 @@ ado::ConnectionReference connection_in(const Value& value) {
   if (!connection && !(object && !*object)) ado::raise(ado::error::type_mismatch);
   return connection;
 }
+
+void write_value(StatementWriter& statement, const Value& value) { SqlValue(value).write_to(statement); }
 
 std::size_t next_number() noexcept {
   static std::atomic<std::size_t> tables{0};
@@ -124,13 +120,15 @@ std::string_view name_of(MemberKind kind) noexcept {
   return {};
 }
 
-Member Member::stored(std::string_view name, std::string_view column, MemberKind kind, Type type, Place place) {
+Member Member::stored(std::string_view name, std::string_view column, MemberKind kind, Type type, Place place,
+                      TakeOwn take_own) {
   Member member;
   member.name_ = name;
   member.kind_ = kind;
   member.type_ = type;
   member.written_column_ = member.read_column_ = column;
   member.place_ = place;
+  member.take_own_ = take_own;
   return member;
 }
 
@@ -180,25 +178,27 @@ Member Member::read_only() && {
 }
 
 void Member::write_to(StatementWriter& statement, const PublicObject& object) const {
-  if (compute_) {
-    const Value value = compute_(object);
-    return SqlValue(value).write_to(statement);
+  if (compute_) return write_value(statement, compute_(object));
+  void* const place = place_(const_cast<PublicObject&>(object));
+  switch (type_) {
+    case Type::Text:
+      return statement.add_quoted(*static_cast<const std::string*>(place));
+    case Type::Money:
+      return statement.add(*static_cast<const Money*>(place));
+    case Type::Single:
+      return statement.add(*static_cast<const Single*>(place));
+    case Type::Integer:
+      return statement.add(std::int64_t{*static_cast<const Integer*>(place)});
+    case Type::Long:
+      return statement.add(std::int64_t{*static_cast<const Long*>(place)});
+    default:
+      visit_stored(type_, place, [&](const auto& property) { SqlValue(property).write_to(statement); });
   }
-  visit_stored(type_, place_(const_cast<PublicObject&>(object)),
-               [&](const auto& property) { SqlValue(property).write_to(statement); });
 }
 
-void Member::read(PublicObject& object, const Value& field) const {
-  // Nine in ten members are texts and amounts, whose columns hold just that.
-  if (type_ == Type::Text) {
-    auto& text = *static_cast<std::string*>(place_(object));
-    if (const auto* const words = field.get_if<std::string>()) return assign(text, *words);
-    return field.is_null() ? text.clear() : take(text, field);
-  }
-  if (const auto* const amount = field.get_if<Money>(); amount && type_ == Type::Money) {
-    *static_cast<Money*>(place_(object)) = *amount;
-    return;
-  }
+void detail::assign_words(std::string& property, const std::string& words) { property = words; }
+
+void Member::read_converted(PublicObject& object, const Value& field) const {
   if (field.is_null() && required_) ado::raise(ado::error::invalid_use_of_null);
   visit_stored(type_, place_(object), [&](auto& property) {
     if (field.is_null()) {

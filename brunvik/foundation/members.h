@@ -85,10 +85,13 @@ class Member {
  public:
   // A stored property is reached through its place in the object, any other member through a function.
   using Place = void* (*)(PublicObject&);
+  // Takes a value of the very type that the property has; false for any other value.
+  using TakeOwn = bool (*)(PublicObject&, const Value&);
   using Compute = Value (*)(const PublicObject&);
   using Call = Value (*)(PublicObject&, std::span<Value>);
 
-  static Member stored(std::string_view name, std::string_view column, MemberKind kind, Type type, Place place);
+  static Member stored(std::string_view name, std::string_view column, MemberKind kind, Type type, Place place,
+                       TakeOwn take_own);
   static Member computed(std::string_view name, std::string_view column, Type type, Compute compute);
   static Member callable(std::string_view name, Type result, std::vector<Parameter> parameters, Call call);
 
@@ -119,8 +122,10 @@ class Member {
   // The value as GetSqlVal writes it.
   void write_to(StatementWriter& statement, const PublicObject& object) const;
 
-  // Takes the value of the column in a record.
-  void read(PublicObject& object, const Value& field) const;
+  // Takes the value of the column in a record. Nearly all columns hold just what their property is.
+  void read(PublicObject& object, const Value& field) const {
+    if (!take_own_(object, field)) read_converted(object, field);
+  }
 
   // Late binding. A value of the wrong type is error 13, a read-only property or a verb put is error 438.
   Value get(const PublicObject& object) const;
@@ -140,8 +145,11 @@ class Member {
   std::string_view read_column_;
   std::vector<Parameter> parameters_;
   Place place_ = nullptr;
+  TakeOwn take_own_ = nullptr;
   Compute compute_ = nullptr;
   Call call_ = nullptr;
+
+  void read_converted(PublicObject& object, const Value& field) const;
 };
 
 // Completes a list of arguments by those that may be left out; error 450 where the count is wrong.
@@ -226,6 +234,39 @@ void* place_of(PublicObject& object) {
   return &(static_cast<typename MemberPointer<decltype(pointer)>::Class&>(object).*pointer);
 }
 
+void assign_words(std::string& property, const std::string& words);
+
+// Half of a row's texts are empty, and so are the properties of a row that is filled for the first time.
+inline void assign(std::string& property, const std::string& text) {
+  if (text.empty()) return property.clear();
+  assign_words(property, text);
+}
+
+// The types of the columns in the books.
+template <class Stored>
+constexpr bool is_read_as_it_is =
+    std::is_same_v<Stored, std::string> || std::is_same_v<Stored, Money> || std::is_same_v<Stored, bool> ||
+    std::is_same_v<Stored, Byte> || std::is_same_v<Stored, Integer> || std::is_same_v<Stored, Long> ||
+    std::is_same_v<Stored, Single> || std::is_same_v<Stored, Double>;
+
+template <auto pointer>
+bool take_own(PublicObject& object, const Value& field) {
+  using Pointer = MemberPointer<decltype(pointer)>;
+  using Stored = typename Pointer::Type;
+  if constexpr (is_read_as_it_is<Stored>) {
+    const auto* const own = field.get_if<Stored>();
+    if (!own) return false;
+    auto& property = static_cast<typename Pointer::Class&>(object).*pointer;
+    if constexpr (std::is_same_v<Stored, std::string>) {
+      assign(property, *own);
+    } else {
+      property = *own;
+    }
+    return true;
+  }
+  return false;
+}
+
 template <auto pointer>
 void* rows_of(PublicObject& object) {
   auto& rows = static_cast<typename MemberPointer<decltype(pointer)>::Class&>(object).*pointer;
@@ -238,7 +279,8 @@ void* rows_of(PublicObject& object) {
 template <auto pointer>
 Member property(std::string_view name, std::string_view column = {}) {
   using Stored = typename detail::MemberPointer<decltype(pointer)>::Type;
-  return Member::stored(name, column, MemberKind::property, type_of<Stored>(), detail::place_of<pointer>);
+  return Member::stored(name, column, MemberKind::property, type_of<Stored>(), detail::place_of<pointer>,
+                        detail::take_own<pointer>);
 }
 
 template <auto pointer>
@@ -248,7 +290,7 @@ Member connection(std::string_view name) {
 
 template <auto pointer>
 Member collection(std::string_view name) {
-  return Member::stored(name, {}, MemberKind::collection, Type::Rows, detail::rows_of<pointer>);
+  return Member::stored(name, {}, MemberKind::collection, Type::Rows, detail::rows_of<pointer>, nullptr);
 }
 
 // A read-only property that a member function works out, with the column that a statement writes it to.

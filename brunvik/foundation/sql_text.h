@@ -16,10 +16,9 @@
 
 #include "brunvik/ado/money.h"
 #include "brunvik/ado/value.h"
+#include "brunvik/foundation/statement_writer.h"
 
 namespace brunvik {
-
-class StatementWriter;
 
 // One value on its way into a statement; it refers to what it was made from.
 class SqlValue {
@@ -91,13 +90,15 @@ class StatementText {
 };
 
 // As many values as places.
-std::string fill_places(std::string_view statement, std::span<const TextPlace> places,
-                        std::span<const SqlValue> values);
+void fill_places(StatementWriter& filled, std::string_view statement, std::span<const TextPlace> places,
+                 std::span<const SqlValue> values);
 
 template <class... Values>
-std::string sql(const std::type_identity_t<StatementText<sizeof...(Values)>>& statement, const Values&... values) {
-  return fill_places(statement.text(), statement.places(),
-                     std::array<SqlValue, sizeof...(Values)>{SqlValue(values)...});
+Statement sql(const std::type_identity_t<StatementText<sizeof...(Values)>>& statement, const Values&... values) {
+  return Statement([&](StatementWriter& filled) {
+    fill_places(filled, statement.text(), statement.places(),
+                std::array<SqlValue, sizeof...(Values)>{SqlValue(values)...});
+  });
 }
 
 }  // namespace brunvik

@@ -1,7 +1,7 @@
 #include "brunvik/foundation/statement_writer.h"
 
 #include <charconv>
-#include <utility>
+#include <cmath>
 
 #include "brunvik/ado/numbers.h"
 #include "brunvik/foundation/text.h"
@@ -30,34 +30,45 @@ char* copy_doubled(char* out, const char* place, const char* end) noexcept {
   return out;
 }
 
+// Copies the rest of a text of at least as many bytes, by all of its last bytes together: those in front of the rest
+// stand there already, each once, unless there is an apostrophe among them.
+template <class Bytes>
+[[gnu::always_inline]] inline char* copy_rest(char* out, const char* place, const char* end) noexcept {
+  Bytes last = 0;
+  std::memcpy(&last, end - sizeof(Bytes), sizeof(Bytes));
+  if (has_apostrophe(last)) return copy_doubled(out, place, end);
+  out += end - place;
+  std::memcpy(out - sizeof(Bytes), &last, sizeof(Bytes));
+  return out;
+}
+
+template <class Bytes>
+[[gnu::always_inline]] inline char* copy_by(char* out, const char* place, const char* end) noexcept {
+  Bytes bytes = 0;
+  for (; end - place >= static_cast<std::ptrdiff_t>(sizeof(Bytes)); place += sizeof(Bytes)) {
+    std::memcpy(&bytes, place, sizeof(Bytes));
+    if (has_apostrophe(bytes)) {
+      out = copy_doubled(out, place, place + sizeof(Bytes));
+    } else {
+      std::memcpy(out, &bytes, sizeof(Bytes));
+      out += sizeof(Bytes);
+    }
+  }
+  return place == end ? out : copy_rest<Bytes>(out, place, end);
+}
+
 // The place behind the quoted text.
 inline char* quote_short(char* out, std::string_view text) noexcept {
-  const char* place = text.data();
+  const char* const place = text.data();
   const char* const end = place + text.size();
   *out++ = '\'';
-  std::uint64_t eight = 0;
-  for (; end - place >= 8; place += 8) {
-    std::memcpy(&eight, place, 8);
-    if (has_apostrophe(eight)) {
-      out = copy_doubled(out, place, place + 8);
-    } else {
-      std::memcpy(out, &eight, 8);
-      out += 8;
-    }
+  if (text.size() >= sizeof(std::uint64_t)) {
+    out = copy_by<std::uint64_t>(out, place, end);
+  } else if (text.size() >= sizeof(std::uint32_t)) {
+    out = copy_by<std::uint32_t>(out, place, end);
+  } else {
+    out = copy_doubled(out, place, end);
   }
-  // The keys of goods and bills end here with five letters and digits, or six.
-  if (end - place >= 4) {
-    std::uint32_t four = 0;
-    std::memcpy(&four, place, 4);
-    if (has_apostrophe(four)) {
-      out = copy_doubled(out, place, place + 4);
-    } else {
-      std::memcpy(out, &four, 4);
-      out += 4;
-    }
-    place += 4;
-  }
-  out = copy_doubled(out, place, end);
   *out++ = '\'';
   return out;
 }
@@ -101,10 +112,24 @@ void StatementWriter::add(ado::Money amount) {
   place_ = ado::write_amount(place_, amount.ten_thousandths());
 }
 
+void StatementWriter::add(ado::Single number) {
+  // Nearly all quantities are whole or end in halves or quarters. Below this bound, which a single keeps to the
+  // hundredth, such a number is its own shortest text.
+  constexpr ado::Single bound = 100'000;
+  if (std::fabs(number) < bound) {
+    const auto quarters = static_cast<std::int32_t>(number * 4);
+    if (static_cast<ado::Single>(quarters) == number * 4) {
+      return add(ado::Money::from_ten_thousandths(quarters * (ado::Money::scale / 4)));
+    }
+  }
+  std::string text;
+  ado::append_number(text, number);
+  add(text);
+}
+
 void StatementWriter::add_quoted(std::string_view text) {
   text = trimmed(text);
-  if (text.size() > short_length) return add(quoted(text));
-  if (room() < 2 * short_length + 2) add_long({});
+  if (text.size() > short_length || room() < 2 * short_length + 2) return add(quoted(text));
   place_ = quote_short(place_, text);
 }
 
@@ -114,9 +139,10 @@ void StatementWriter::add_long(std::string_view text) {
   place_ = buffer_.data();
 }
 
-std::string StatementWriter::text() && {
+std::string_view StatementWriter::text() {
   if (front_.empty()) return {buffer_.data(), place_};
-  return std::move(front_.append(buffer_.data(), place_));
+  add_long({});
+  return front_;
 }
 
 }  // namespace brunvik

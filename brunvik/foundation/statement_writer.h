@@ -1,16 +1,18 @@
-// Puts the text of a statement together in a buffer on the stack, and gives it out as one string at the end. Against
-// appending to the string itself, a piece costs half the instructions: there is nothing to grow, and nothing to keep
-// closed by a zero.
+// Puts the text of a statement together in a buffer on the stack, where it stays until it is sent. Against appending to
+// a string, a piece costs half the instructions: there is nothing to grow, and nothing to keep closed by a zero.
 #pragma once
 
 #include <array>
+#include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "brunvik/ado/money.h"
+#include "brunvik/ado/types.h"
 
 namespace brunvik {
 
@@ -28,11 +30,13 @@ class StatementWriter {
 
   void add(std::int64_t number);
   void add(ado::Money amount);
+  void add(ado::Single number);
 
   // In apostrophes, trimmed, the text's own apostrophes doubled.
   void add_quoted(std::string_view text);
 
-  std::string text() &&;
+  // What stands there, good until the next piece.
+  std::string_view text();
 
  private:
   std::size_t room() const noexcept { return static_cast<std::size_t>(buffer_.data() + buffer_.size() - place_); }
@@ -42,6 +46,28 @@ class StatementWriter {
   std::array<char, 1'024> buffer_;
   char* place_ = buffer_.data();
   std::string front_;
+};
+
+// A statement that is written and on its way to a connection. It can't be moved, since its text stands inside of it;
+// what has to outlive it takes the text as a string.
+class Statement {
+ public:
+  template <std::invocable<StatementWriter&> Write>
+  explicit Statement(Write&& write) {
+    std::forward<Write>(write)(writer_);
+    text_ = writer_.text();
+  }
+  Statement(const Statement&) = delete;
+  Statement& operator=(const Statement&) = delete;
+
+  operator std::string_view() const noexcept { return text_; }
+  operator std::string() const { return std::string(text_); }
+
+  friend bool operator==(const Statement& statement, std::string_view text) noexcept { return statement.text_ == text; }
+
+ private:
+  StatementWriter writer_;
+  std::string_view text_;
 };
 
 // The text in apostrophes, trimmed, its apostrophes doubled.

@@ -136,8 +136,9 @@ bool WarehouseRepairDocument::has_balance(const StockRow& row, Long state) const
 }
 
 void WarehouseRepairDocument::change_balance(const StockRow& row, Long state, StatementText<2> change) const {
+  const Statement settings = sql(change, row.Qty, row.Qty);
   execute(sql("update Inventory set {raw} where WID={} and GId={} and Model1={} and Model2={} and Status={}",
-              sql(change, row.Qty, row.Qty), row.Receiver, row.Gid, row.Model1, row.Model2, state));
+              std::string_view(settings), row.Receiver, row.Gid, row.Model1, row.Model2, state));
 }
 
 const DocumentForm& clsWareHouseRepairBill::form() const {
