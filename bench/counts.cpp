@@ -7,6 +7,7 @@
 #include "bench/benchmarks.h"
 #include "bench/books.h"
 #include "bench/counting.h"
+#include "bench/family_life.h"
 #include "bench/life.h"
 #include "bench/recording.h"
 
@@ -20,10 +21,8 @@ constexpr unsigned lives = 4;
 void live(const ado::ConnectionReference& connection, const Document& document, std::size_t counted) {
   for (unsigned seed = 0; seed < lives; ++seed) {
     const Life life = document.life(connection, seed, Numbering::given);
-    life.begin();
-    for (std::size_t step = 0; step < life.steps.size(); ++step) {
-      count(step == counted, [&] { run(life.steps[step]); });
-    }
+    bench::live(
+        life, [&, place = std::size_t{0}](const Step& step) mutable { count(place++ == counted, [&] { run(step); }); });
   }
 }
 
@@ -49,17 +48,20 @@ void execute(PlainSqlite& plain, const std::vector<PreparedLife>& prepared, std:
   }
 }
 
-void counts(benchmark::State& state, const Document& document) {
+// Library and driver, and the prepared statements where they are measured, too.
+enum class Contenders { two, three };
+
+void counts(benchmark::State& state, const Document& document, Contenders contenders) {
   if (!is_counting()) return state.SkipWithError("Instructions are counted in callgrind alone.");
   const Folder folder;
   const std::string books = folder.file("books.db");
-  lay_books(books, 1'000);
+  lay_books_for(document, books);
   const auto connection = open_copy(folder, books, in_memory);
   const auto plain = open_plain_copy(folder, books, in_memory);
   std::vector<RecordedLife> recorded;
   for (unsigned seed = 0; seed < lives; ++seed) recorded.push_back(record(connection, document.life, seed));
   std::vector<PreparedLife> prepared;
-  for (const RecordedLife& life : recorded) {
+  for (const RecordedLife& life : contenders == Contenders::three ? recorded : std::vector<RecordedLife>()) {
     PreparedLife& steps = prepared.emplace_back();
     for (const RecordedStep& step : life) {
       auto& texts = steps.emplace_back();
@@ -74,11 +76,13 @@ void counts(benchmark::State& state, const Document& document) {
     execute(*plain, prepared, none);
     start_counting();
     for (std::size_t step = 0; step < none; ++step) {
+      if (!recorded.front()[step].timed) continue;
       const std::string name = document.name + "/" + recorded.front()[step].verb + "/";
       live(connection, document, step);
       write_count(name + "library");
       replay(*connection, recorded, step);
       write_count(name + "driver");
+      if (contenders == Contenders::two) continue;
       execute(*plain, prepared, step);
       write_count(name + "prepared");
     }
@@ -90,9 +94,11 @@ void counts(benchmark::State& state, const Document& document) {
 
 // In memory alone: what a log costs depends on how full it is just then.
 void register_counts() {
-  for (const Document& document : documents) {
-    benchmark::RegisterBenchmark(("counts/verbs/" + document.name).c_str(),
-                                 [=](benchmark::State& state) { counts(state, document); })
+  for (const Document& document : replayed_documents()) {
+    const Contenders contenders = document.kinds.empty() ? Contenders::three : Contenders::two;
+    benchmark::RegisterBenchmark(
+        ("counts/verbs/" + document.name).c_str(),
+        [&document, contenders](benchmark::State& state) { counts(state, document, contenders); })
         ->Iterations(1)
         ->Unit(benchmark::kSecond);
   }

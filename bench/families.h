@@ -33,15 +33,20 @@ struct FamilyDocument {
   std::vector<Property> properties;
   // Ten of each.
   std::vector<Rows> rows;
-  // What follows on GetNewId; the last brings the books back, where the document has a verb for it.
+  // What follows on GetNewId; the last brings the books back, where the document has a verb for it. A call without a
+  // step isn't measured.
   std::vector<Call> calls;
   // The member of the number.
   std::string_view number = "ID";
+  // A statement that brings the books back where no verb does.
+  std::string_view undone_by = {};
 };
 
 struct Family {
   std::string_view name;
   std::vector<FamilyDocument> documents;
+  // Whether its documents are measured against a replay of their statements, too.
+  bool replayed = false;
 };
 
 std::span<const Family> families();

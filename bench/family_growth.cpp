@@ -2,9 +2,7 @@
 // thousand and a million bills. The next key of the ledger among as many rows of its journal.
 #include <benchmark/benchmark.h>
 
-#include <algorithm>
 #include <array>
-#include <cstdio>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -13,6 +11,7 @@
 #include "bench/books.h"
 #include "bench/families.h"
 #include "bench/family_books.h"
+#include "bench/family_life.h"
 #include "bench/times.h"
 #include "brunvik/automation/automation.h"
 #include "brunvik/foundation/Brunvik_Variable.h"
@@ -25,7 +24,6 @@ namespace {
 
 constexpr int rounds = 50;
 constexpr unsigned rounds_before = 8;
-constexpr unsigned row_count = 10;
 
 // The books of one family, of both sizes.
 class Pair {
@@ -54,61 +52,6 @@ class Pair {
   ado::ConnectionReference few_, many_;
 };
 
-std::string filled_in(std::string_view value, const std::string& id, unsigned seed, unsigned row) {
-  std::array<char, 8> goods{};
-  const unsigned scattered = (seed * 97 + row) * 2'654'435'761U;
-  std::snprintf(goods.data(), goods.size(), "G%04u", (scattered >> 8) % goods_count);
-  std::string text(value);
-  const auto replace = [&](std::string_view mark, const std::string& by) {
-    if (const auto place = text.find(mark); place != std::string::npos) text.replace(place, mark.size(), by);
-  };
-  replace("$ID", id);
-  replace("$ROW", std::to_string(row));
-  replace("$GOODS", goods.data());
-  return text;
-}
-
-Value run(PublicObject& object, std::string_view verb, std::vector<Value>& arguments) {
-  Value result = automation::call(object, verb, arguments);
-  if (result.get_if<Long>() && result.as_long() != 0) {
-    throw std::runtime_error(std::string(verb) + " ended with " + result.as_text());
-  }
-  return result;
-}
-
-void live(const FamilyDocument& document, const ado::ConnectionReference& connection, unsigned seed, Times& times) {
-  start_session(connection);
-  const auto object = automation::create(document.class_name);
-  automation::put(*object, "ADOConn", ado::ObjectReference(connection));
-  std::string id;
-  times.time("GetNewId", [&] {
-    // A plan gives its number as the result.
-    std::vector<Value> arguments;
-    const bool is_result = document.class_name.ends_with("PlanBill");
-    if (!is_result) arguments.emplace_back("");
-    const Value result = run(*object, "GetNewId", arguments);
-    id = (is_result ? result : arguments.front()).as_text();
-  });
-  automation::put(*object, document.number, id);
-  for (const auto& [name, value] : document.properties) automation::put(*object, name, std::string(value));
-  for (const Rows& rows : document.rows) {
-    for (unsigned row = 1; row <= row_count; ++row) {
-      PublicObject& added = automation::rows(*object, rows.collection).add();
-      for (const auto& [name, value] : rows.properties) automation::put(added, name, filled_in(value, id, seed, row));
-    }
-  }
-  for (const Call& call : document.calls) {
-    std::vector<Value> arguments = call.arguments;
-    std::replace(arguments.begin(), arguments.end(), Value("$ID"), Value(id));
-    times.time(std::string(call.step), [&] { run(*object, call.verb, arguments); });
-  }
-}
-
-std::string with_underscores(std::string text) {
-  std::ranges::replace(text, ' ', '_');
-  return text;
-}
-
 void count(benchmark::State& state, const std::string& name, const std::string& step, const Times& few,
            const Times& many) {
   state.counters[name + "/" + step] = many.median(step) / few.median(step);
@@ -124,12 +67,14 @@ void family_growth(benchmark::State& state, const Family& family) {
   for (auto _ : state) {
     for (const FamilyDocument& document : family.documents) {
       const auto work = [&](const auto& connection, unsigned seed, Times& times) {
-        live(document, connection, seed, times);
+        start_session(connection);
+        live(family_life(document, connection, seed, Numbering::proposed),
+             [&](const Step& step) { times.time_step(step, [&] { run(step); }); });
       };
       Times ignored, few, many;
       for (unsigned seed = 0; seed < rounds_before; ++seed) books.in_turns(seed, ignored, ignored, work);
       for (unsigned seed = 0; seed < rounds; ++seed) books.in_turns(rounds_before + seed, few, many, work);
-      const std::string name = with_underscores(std::string(document.name));
+      const std::string name = with_underscores(document.name);
       count(state, name, "GetNewId", few, many);
       for (const Call& call : document.calls) {
         if (!call.step.empty()) count(state, name, std::string(call.step), few, many);
@@ -162,7 +107,7 @@ void ledger_growth(benchmark::State& state) {
 
 void register_family_growth() {
   for (const Family& family : families()) {
-    benchmark::RegisterBenchmark(("families/" + with_underscores(std::string(family.name))).c_str(),
+    benchmark::RegisterBenchmark(("families/" + with_underscores(family.name)).c_str(),
                                  [&family](benchmark::State& state) { family_growth(state, family); })
         ->Iterations(1)
         ->Unit(benchmark::kMillisecond);

@@ -43,14 +43,7 @@ void growth(benchmark::State& state, const Document& document) {
   const auto live = [&](const ado::ConnectionReference& connection, unsigned seed, Times& times) {
     start_session(connection);
     const Life life = document.life(connection, seed, Numbering::proposed);
-    life.begin();
-    for (const Step& step : life.steps) {
-      if (step.timed) {
-        times.time(step.verb, [&] { run(step); });
-      } else {
-        run(step);
-      }
-    }
+    bench::live(life, [&](const Step& step) { times.time_step(step, [&] { run(step); }); });
   };
   Times ignored;
   unsigned seed = 0;

@@ -6,6 +6,7 @@
 
 #include "bench/benchmarks.h"
 #include "bench/books.h"
+#include "bench/family_life.h"
 #include "bench/life.h"
 #include "bench/recording.h"
 #include "bench/times.h"
@@ -20,7 +21,7 @@ constexpr int rounds = 320;
 void library_share(benchmark::State& state, const Document& document, const Place& place) {
   const Folder folder;
   const std::string books = folder.file("books.db");
-  lay_books(books, 1'000);
+  lay_books_for(document, books);
   const auto connection = open_copy(folder, books, place);
   std::vector<RecordedLife> recorded;
   for (unsigned seed = 0; seed < lives; ++seed) recorded.push_back(record(connection, document.life, seed));
@@ -28,12 +29,11 @@ void library_share(benchmark::State& state, const Document& document, const Plac
   Times verbs, replays, ignored;
   const auto live = [&](unsigned seed, Times& times) {
     const Life life = document.life(connection, seed, Numbering::given);
-    life.begin();
-    for (const Step& step : life.steps) times.time(step.verb, [&] { run(step); });
+    bench::live(life, [&](const Step& step) { times.time_step(step, [&] { run(step); }); });
   };
   const auto replay = [&](unsigned seed, Times& times) {
     for (const RecordedStep& step : recorded[seed]) {
-      times.time(step.verb, [&] {
+      times.time_step(step, [&] {
         for (const std::string& text : step.texts) connection->Execute(text);
       });
     }
@@ -55,6 +55,7 @@ void library_share(benchmark::State& state, const Document& document, const Plac
     }
   }
   for (const RecordedStep& step : recorded.front()) {
+    if (!step.timed) continue;
     state.counters[step.verb] = verbs.median(step.verb) / replays.median(step.verb);
     state.counters[step.verb + "_us"] = verbs.median(step.verb);
   }
@@ -65,10 +66,10 @@ void library_share(benchmark::State& state, const Document& document, const Plac
 
 void register_library_share() {
   for (const Place& place : {in_memory, normal_log}) {
-    for (const Document& document : documents) {
+    for (const Document& document : replayed_documents()) {
       const std::string name = "library_share/" + std::string(place.name) + "/" + document.name;
-      benchmark::RegisterBenchmark(name.c_str(),
-                                   [=](benchmark::State& state) { library_share(state, document, place); })
+      benchmark::RegisterBenchmark(
+          name.c_str(), [&document, place](benchmark::State& state) { library_share(state, document, place); })
           ->Iterations(rounds)
           ->Unit(benchmark::kMillisecond);
     }

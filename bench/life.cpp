@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <stdexcept>
 #include <string_view>
+#include <type_traits>
 
 #include "bench/books.h"
 #include "brunvik/purchasing/purchase_receipt.h"
@@ -84,6 +85,16 @@ Long undo(clsOthersInBill& bill) { return bill.UndoAudit(); }
 Long undo(clsPurchaseInBill& bill) { return bill.UndoAudit(true); }
 Long undo(clsSalesOutBill& bill) { return bill.UndoAudit(false); }
 
+// Both neighbours within a series, of a number from anywhere in the years of the large books.
+Long find_neighbours(clsSalesOutBill& bill, unsigned seed) {
+  const unsigned place = scattered(seed, 0) >> 8;
+  std::array<char, 32> number{};
+  std::snprintf(number.data(), number.size(), "XSC%02u%02u%02u00103", 17 + place % 7, 1 + place % 12, 1 + place % 28);
+  std::string near;
+  const Long previous = bill.GetNearId(number.data(), near, false, "XSC");
+  return previous != 0 ? previous : bill.GetNearId(number.data(), near, true, "XSC");
+}
+
 template <class Bill>
 Life stock_life(const ado::ConnectionReference& connection, unsigned seed, Numbering numbering,
                 const char* number_format) {
@@ -109,6 +120,11 @@ Life stock_life(const ado::ConnectionReference& connection, unsigned seed, Numbe
   life.steps.push_back({"Audit", [bill] { return audit(*bill); }});
   life.steps.push_back({"LoadById", [bill] { return bill->LoadById(std::string(bill->ID)); }});
   life.steps.push_back({"UndoAudit", [bill] { return undo(*bill); }});
+  if constexpr (std::is_same_v<Bill, clsSalesOutBill>) {
+    if (numbering == Numbering::proposed) {
+      life.steps.push_back({"GetNearId", [bill, seed] { return find_neighbours(*bill, seed); }});
+    }
+  }
   life.steps.push_back({"Delete", [bill] { return bill->Delete(); }});
   return life;
 }

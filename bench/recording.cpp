@@ -4,16 +4,16 @@
 
 namespace brunvik::bench {
 
-RecordedLife record(const ado::ConnectionReference& connection, MakeLife make, unsigned seed) {
+RecordedLife record(const ado::ConnectionReference& connection, const MakeLife& make, unsigned seed) {
   const auto recording = std::make_shared<Recording>(connection);
   start_session(recording);
-  const Life life = make(recording, seed, Numbering::given);
-  life.begin();
   RecordedLife recorded;
-  for (const Step& step : life.steps) {
+  const Life life = make(recording, seed, Numbering::given);
+  live(life, [&](const Step& step) {
     run(step);
-    recorded.push_back({step.verb, recording->take()});
-  }
+    recorded.push_back({step.verb, recording->take(), step.timed});
+  });
+  if (life.end) recorded.push_back({"", recording->take(), false});
   start_session(connection);
   return recorded;
 }

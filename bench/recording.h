@@ -31,11 +31,13 @@ class Recording final : public ado::Connection {
 struct RecordedStep {
   std::string verb;
   std::vector<std::string> texts;
+  bool timed = true;
 };
 
+// Where the life has an end of its own, that is the last step.
 using RecordedLife = std::vector<RecordedStep>;
 
 // Lives the life of a document once on the connection; the session is the connection's afterwards.
-RecordedLife record(const ado::ConnectionReference& connection, MakeLife make, unsigned seed);
+RecordedLife record(const ado::ConnectionReference& connection, const MakeLife& make, unsigned seed);
 
 }  // namespace brunvik::bench

@@ -26,6 +26,13 @@ class Times {
   // Of all steps together.
   double sum_of_medians() const;
 
+  // Of a step of a life, or of its replay.
+  template <class Step, class Work>
+  void time_step(const Step& step, Work&& work) {
+    if (!step.timed) return std::forward<Work>(work)();
+    time(step.verb, std::forward<Work>(work));
+  }
+
  private:
   std::map<std::string, std::vector<double>> times_;
 };
