@@ -18,6 +18,9 @@ class Recording final : public ado::Connection {
     texts_.emplace_back(CommandText);
     return connection_->Execute(CommandText);
   }
+  void BeginTrans() override { connection_->BeginTrans(); }
+  void CommitTrans() override { connection_->CommitTrans(); }
+  void RollbackTrans() override { connection_->RollbackTrans(); }
   Long State() const noexcept override { return connection_->State(); }
 
   std::vector<std::string> take() { return std::exchange(texts_, {}); }

@@ -14,6 +14,9 @@ class PrintedStatements final : public brunvik::ado::Connection {
     if (CommandText.starts_with("select")) return {{"Id"}, {}};
     return {};
   }
+  void BeginTrans() override { std::cout << "begin\n"; }
+  void CommitTrans() override { std::cout << "commit\n"; }
+  void RollbackTrans() override { std::cout << "rollback\n"; }
   brunvik::Long State() const noexcept override { return 1; }
 };
 

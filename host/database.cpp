@@ -78,15 +78,15 @@ ado::ConnectionReference open_fresh_database(const std::string& address) {
 }
 
 void all_or_nothing(ado::Connection& database, const std::function<void()>& work) {
-  database.Execute("begin immediate");
+  database.BeginTrans();
   try {
     work();
-    database.Execute("commit");
+    database.CommitTrans();
   } catch (...) {
     try {
-      database.Execute("rollback");
+      database.RollbackTrans();
     } catch (const ado::RuntimeError&) {
-      // After some failures, a full disk among them, the engine has done so itself; what counts is that failure.
+      // A commit that failed may have ended the transaction; what counts is that failure.
     }
     throw;
   }

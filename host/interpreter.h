@@ -50,6 +50,9 @@ class Interpreter {
   // Counts the lines. What the host or the database refuses is an answer too; throws an UnreadableLine alone.
   std::string answer(std::string_view line);
 
+  // Whether the lines left a transaction open, which is taken back.
+  bool roll_back_open_transaction();
+
   // How many verbs and procedures were called.
   std::size_t calls() const noexcept { return calls_; }
 

@@ -52,13 +52,28 @@ void Interpreter::set_connection(const Json& line, Json& answer) {
   answer["ok"] = true;
 }
 
-// The host's own statements: the library begins and ends no transaction. The lock of the writer is taken at once, since
-// a verb that has read before another program writes could not write any more.
 void Interpreter::run_transaction(const Json& line, Json& answer) {
   const std::string& is = text_member(line, "is");
-  if (is != "begin" && is != "commit" && is != "rollback") refuse(error::type_mismatch, is);
-  database_->Execute(is == "begin" ? "begin immediate" : is);
+  if (is == "begin") {
+    database_->BeginTrans();
+  } else if (is == "commit") {
+    database_->CommitTrans();
+  } else if (is == "rollback") {
+    database_->RollbackTrans();
+  } else {
+    refuse(error::type_mismatch, is);
+  }
   answer["ok"] = true;
+}
+
+bool Interpreter::roll_back_open_transaction() {
+  try {
+    database_->RollbackTrans();
+    return true;
+  } catch (const ado::RuntimeError& failure) {
+    // Where the rollback failed, the connection takes it back when it goes.
+    return failure.number() != error::no_transaction;
+  }
 }
 
 void Interpreter::rehearse_failure(const Json& line, Json& answer) {

@@ -92,13 +92,7 @@ void fix_clock(const std::string& now) {
   ado::set_clock([date] { return date; });
 }
 
-int run_command(const Options& options) {
-  if (options.database.empty() && isatty(STDERR_FILENO) == 1) {
-    std::cerr << "brunvik: no --db is given; the books are in memory, and gone when the run ends\n";
-  }
-  host::Interpreter interpreter(
-      host::open_database(options.database.empty() ? std::string(host::in_memory) : options.database, options.create),
-      options.settings);
+int run_lines(const Options& options, host::Interpreter& interpreter) {
   host::Progress progress;
   if (options.files.empty()) host::run(interpreter, std::cin, std::cout, progress);
   for (const std::string& file : options.files) {
@@ -110,6 +104,29 @@ int run_command(const Options& options) {
     host::run(interpreter, lines, std::cout, progress);
   }
   return interpreter.refused() == 0 ? done : line_refused;
+}
+
+void end_transaction(host::Interpreter& interpreter) {
+  if (interpreter.roll_back_open_transaction()) {
+    std::cerr << "brunvik: the lines ended within a transaction, which was rolled back\n";
+  }
+}
+
+int run_command(const Options& options) {
+  if (options.database.empty() && isatty(STDERR_FILENO) == 1) {
+    std::cerr << "brunvik: no --db is given; the books are in memory, and gone when the run ends\n";
+  }
+  host::Interpreter interpreter(
+      host::open_database(options.database.empty() ? std::string(host::in_memory) : options.database, options.create),
+      options.settings);
+  try {
+    const int status = run_lines(options, interpreter);
+    end_transaction(interpreter);
+    return status;
+  } catch (...) {
+    end_transaction(interpreter);
+    throw;
+  }
 }
 
 int demo_command(const Options& options) {

@@ -30,8 +30,16 @@ TracedConnection::TracedConnection(ado::ConnectionReference driver, ado::Road ro
 
 ado::Recordset TracedConnection::Execute(std::string_view CommandText) {
   trace_->hand_over(road_, CommandText);
+  return open_driver().Execute(CommandText);
+}
+
+void TracedConnection::BeginTrans() { open_driver().BeginTrans(); }
+void TracedConnection::CommitTrans() { open_driver().CommitTrans(); }
+void TracedConnection::RollbackTrans() { open_driver().RollbackTrans(); }
+
+ado::Connection& TracedConnection::open_driver() const {
   if (closed_) ado::raise(ado::error::object_closed);
-  return driver_->Execute(CommandText);
+  return *driver_;
 }
 
 }  // namespace brunvik::host

@@ -56,11 +56,20 @@ class TracedConnection final : public ado::Connection {
   TracedConnection(ado::ConnectionReference driver, ado::Road road, std::shared_ptr<Trace> trace);
 
   ado::Recordset Execute(std::string_view CommandText) override;
+
+  // No statements: they are neither recorded nor counted by a rehearsal.
+  void BeginTrans() override;
+  void CommitTrans() override;
+  void RollbackTrans() override;
+
   Long State() const noexcept override { return closed_ ? 0 : driver_->State(); }
 
   void set_closed(bool closed) noexcept { closed_ = closed; }
 
  private:
+  // The driver's connection; error 3704 when this one is closed.
+  ado::Connection& open_driver() const;
+
   ado::ConnectionReference driver_;
   ado::Road road_;
   std::shared_ptr<Trace> trace_;

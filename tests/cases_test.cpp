@@ -35,8 +35,8 @@ ado::ConnectionReference lay_tables(ado::ConnectionReference database) {
 
 ado::ConnectionReference use_of_a_memory() {
   static const ado::ConnectionReference memory = lay_tables(sqlite::open(":memory:"));
-  memory->Execute("begin");
-  return {memory.get(), [](ado::Connection* used) { used->Execute("rollback"); }};
+  memory->BeginTrans();
+  return {memory.get(), [](ado::Connection* used) { used->RollbackTrans(); }};
 }
 
 ado::ConnectionReference copy_of_a_file(const Folder& folder) {

@@ -111,6 +111,8 @@ TEST(RuntimeError, The_codes_of_a_provider_are_the_signed_numbers_of_its_32_bits
   EXPECT_EQ(ado::error::data_overflow, -2147217833);
   EXPECT_EQ(ado::error::timed_out, -2147217871);
   EXPECT_EQ(ado::error::provider_failed, -2147467259);
+  EXPECT_EQ(ado::error::no_transaction, -2147168242);
+  EXPECT_EQ(ado::error::transaction_open, -2147168237);
 }
 
 TEST(RuntimeError, Carries_the_engines_own_text_and_the_statement) {

@@ -49,7 +49,7 @@ class FaultRuns : public ::testing::Test {
 
   // Runs the verb once on the books as they were laid.
   static Outcome outcome(const Verb& verb, const Circumstances& circumstances = {}) {
-    books_->Execute("begin");
+    books_->BeginTrans();
     run(*books_, verb.before);
     const auto rehearsal = std::make_shared<Rehearsal>();
     const auto road = [&](const char* name, Way way) {
@@ -79,7 +79,7 @@ class FaultRuns : public ::testing::Test {
     outcome.result = result.get_if<std::string>() ? 0 : result.as_long();  // a number of a bill says nothing of errors
     outcome.statements = rehearsal->statements;
     outcome.notices = host.take();
-    books_->Execute("rollback");
+    books_->RollbackTrans();
     return outcome;
   }
 

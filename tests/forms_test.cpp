@@ -69,6 +69,9 @@ class UniformBooks final : public ado::Connection {
     if (!lower(std::string(CommandText)).starts_with("select")) return {};
     return stored_ ? test::table({"BillCount"}, {{Long{1}}}) : test::table({"BillCount"});
   }
+  void BeginTrans() override {}
+  void CommitTrans() override {}
+  void RollbackTrans() override {}
   Long State() const noexcept override { return 1; }
 
  private:

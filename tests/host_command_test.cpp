@@ -50,6 +50,20 @@ TEST(HostCommand, An_unreadable_line_is_status_2_and_the_lines_before_it_stay_do
   EXPECT_EQ(brunvik({"run", "--db", books}, count_of_goods).out, "{\"line\":1,\"columns\":[\"n\"],\"rows\":[[1]]}\n");
 }
 
+TEST(HostCommand, Lines_that_end_within_a_transaction_leave_nothing_of_it_and_that_is_said) {
+  const Folder folder;
+  const std::string books = "sqlite:" + folder.file("books.db");
+  const std::string begin = "{\"do\":\"transaction\",\"is\":\"begin\"}\n";
+  const std::string said = "brunvik: the lines ended within a transaction, which was rolled back\n";
+  const Ended ended = brunvik({"run", "--db", books, "--create"}, begin + one_goods);
+  EXPECT_EQ(ended.status, 0);
+  EXPECT_EQ(ended.error, said);
+  const Ended cut_off = brunvik({"run", "--db", books}, begin + one_goods + "nonsense\n");
+  EXPECT_EQ(cut_off.status, 2);
+  EXPECT_TRUE(cut_off.error.starts_with(said + "brunvik: line 3: ")) << cut_off.error;
+  EXPECT_EQ(brunvik({"run", "--db", books}, count_of_goods).out, "{\"line\":1,\"columns\":[\"n\"],\"rows\":[[0]]}\n");
+}
+
 TEST(HostCommand, A_missing_database_is_status_1_and_is_not_made) {
   const Folder folder;
   const std::string path = folder.file("books.db");

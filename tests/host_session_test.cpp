@@ -156,15 +156,47 @@ TEST_F(HostSession, A_transaction_of_the_host_that_is_committed_keeps_the_verbs_
   answer(begin);
   EXPECT_EQ(answer(save).at("result"), 0);
   EXPECT_EQ(answer(commit).at("ok"), true);
-  EXPECT_EQ(answer(rollback).at("error").at("number"), -2147467259);
+  EXPECT_EQ(answer(rollback).at("error").at("number"), -2147168242);
   EXPECT_EQ(answer(stored).at("rows").dump(), R"([["QTR24030500001"]])");
 }
 
 TEST_F(HostSession, A_transaction_that_the_database_refuses_is_an_error_of_the_host) {
-  EXPECT_NE(answer(commit).at("error").at("description").dump().find("no transaction is active"), std::string::npos);
+  EXPECT_EQ(answer(commit).at("error").dump(), R"({"number":-2147168242,"description":"没有打开的事务。"})");
   answer(begin);
-  EXPECT_NE(answer(begin).at("error").at("description").dump().find("within a transaction"), std::string::npos);
+  EXPECT_EQ(answer(begin).at("error").dump(),
+            R"({"number":-2147168237,"description":"只能打开一个事务，而已有一个事务打开。"})");
   EXPECT_EQ(answer(R"({"do":"transaction","is":"open"})").at("error").at("number"), 13);
+}
+
+TEST_F(HostSession, A_transaction_that_the_engine_gave_up_keeps_every_later_verb_out_of_the_books) {
+  answer(begin);
+  EXPECT_EQ(answer(save).at("result"), 0);
+  const Json pages = answer(R"({"do":"sql","text":"pragma page_count"})").at("rows").at(0).at(0);
+  answer(R"({"do":"sql","text":"pragma max_page_count=)" + pages.dump() + R"("})");
+  const std::string line = R"line({"do":"sql","text":"insert into Warehouse(id,WName) values('W1','NAME')"})line";
+  const Json full = answer(std::string(line).replace(line.find("NAME"), 4, 100'000, 'y'));
+  EXPECT_EQ(full.at("error").at("description"), "database or disk is full");
+  const Json lost = answer(save);
+  EXPECT_EQ(lost.at("result"), -2147467259);
+  EXPECT_TRUE(lost.at("failure").at("text").get<std::string>().starts_with("The transaction was lost, ")) << lost;
+  EXPECT_EQ(answer(commit).at("error").at("number"), -2147467259);
+  EXPECT_EQ(answer(stored).at("rows").dump(), "[]");
+  EXPECT_EQ(answer(commit).at("error").at("number"), -2147168242);
+}
+
+TEST_F(HostSession, A_transaction_goes_past_roads_that_are_closed) {
+  answer(R"({"do":"connection","of":"bill","is":"closed"})");
+  EXPECT_EQ(answer(begin).at("ok"), true);
+  EXPECT_EQ(answer(rollback).at("ok"), true);
+}
+
+TEST_F(HostSession, A_transaction_that_the_lines_leave_open_can_be_taken_back_by_the_host) {
+  EXPECT_FALSE(interpreter.roll_back_open_transaction());
+  answer(begin);
+  EXPECT_EQ(answer(save).at("result"), 0);
+  EXPECT_TRUE(interpreter.roll_back_open_transaction());
+  EXPECT_EQ(answer(stored).at("rows").dump(), "[]");
+  EXPECT_FALSE(interpreter.roll_back_open_transaction());
 }
 
 TEST_F(HostSession, A_transaction_is_neither_traced_nor_counted_by_a_rehearsal) {

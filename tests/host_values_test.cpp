@@ -134,6 +134,9 @@ class BrokenText final : public ado::Connection {
             {Value("A\xFF"
                    "B")}};
   }
+  void BeginTrans() override {}
+  void CommitTrans() override {}
+  void RollbackTrans() override {}
   Long State() const noexcept override { return 1; }
 };
 

@@ -91,6 +91,9 @@ TEST_F(Wire, Has_the_time_that_the_connection_took) {
       std::this_thread::sleep_for(std::chrono::milliseconds(2));
       throw std::runtime_error("a host's own");
     }
+    void BeginTrans() override {}
+    void CommitTrans() override {}
+    void RollbackTrans() override {}
     ado::Long State() const noexcept override { return 1; }
   };
   adjustment.ADOConn = std::make_shared<Slow>();

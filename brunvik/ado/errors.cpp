@@ -37,6 +37,8 @@ constexpr std::array error_texts{
     ErrorText{error::data_overflow, "数据溢出"},
     ErrorText{error::timed_out, "数据库忙或超时"},
     ErrorText{error::provider_failed, "未指定的错误"},
+    ErrorText{error::no_transaction, "没有打开的事务。"},
+    ErrorText{error::transaction_open, "只能打开一个事务，而已有一个事务打开。"},
 };
 
 }  // namespace

@@ -40,6 +40,8 @@ inline constexpr Long constraint_violated = static_cast<Long>(0x80040E2F);
 inline constexpr Long data_overflow = static_cast<Long>(0x80040E57);
 inline constexpr Long timed_out = static_cast<Long>(0x80040E31);
 inline constexpr Long provider_failed = static_cast<Long>(0x80004005);
+inline constexpr Long no_transaction = static_cast<Long>(0x8004D00E);
+inline constexpr Long transaction_open = static_cast<Long>(0x8004D013);
 
 }  // namespace error
 

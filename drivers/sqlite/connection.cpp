@@ -10,13 +10,18 @@ namespace brunvik::sqlite {
 Connection::Connection(std::unique_ptr<Engine> engine) : engine_(std::move(engine)) {}
 Connection::~Connection() = default;
 
-ado::Recordset Connection::Execute(std::string_view CommandText) {
-  if (!engine_) {
-    throw ado::RuntimeError(ado::error::object_closed, std::string(ado::error_text(ado::error::object_closed)),
-                            std::string(CommandText));
-  }
-  return engine_->execute(CommandText);
+Engine& Connection::open_engine(std::string_view statement) const {
+  if (!engine_) ado::raise(ado::error::object_closed, statement);
+  return *engine_;
 }
+
+ado::Recordset Connection::Execute(std::string_view CommandText) {
+  return open_engine(CommandText).execute(CommandText);
+}
+
+void Connection::BeginTrans() { open_engine().begin(); }
+void Connection::CommitTrans() { open_engine().commit(); }
+void Connection::RollbackTrans() { open_engine().roll_back(); }
 
 void Connection::Close() noexcept { engine_.reset(); }
 

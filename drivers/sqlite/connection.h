@@ -56,6 +56,14 @@ class Connection final : public ado::Connection {
   // more than its width, a single out of range, or an amount that can't be kept exactly (from ±549,755,813,888 on);
   // and where a sum or a difference of money has none.
   ado::Recordset Execute(std::string_view CommandText) override;
+
+  // The begin takes the lock of the writer at once and waits for it as long as a statement does, so that of two hosts
+  // that read before they write neither fails in the middle. Begin, commit and rollback as texts of Execute work on
+  // the same transaction; a lost one ends with the text `rollback`, too.
+  void BeginTrans() override;
+  void CommitTrans() override;
+  void RollbackTrans() override;
+
   Long State() const noexcept override { return engine_ ? 1 : 0; }
 
   // Closing a closed connection does nothing.
@@ -69,6 +77,9 @@ class Connection final : public ado::Connection {
   std::size_t held_bytes() const noexcept;
 
  private:
+  // Error 3704 when the connection is closed.
+  Engine& open_engine(std::string_view statement = {}) const;
+
   std::unique_ptr<Engine> engine_;
 };
 

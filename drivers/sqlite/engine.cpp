@@ -76,7 +76,7 @@ void Engine::expect_known_tables(const std::string& path, const Options& options
                           "There is none of the books' tables in '" + path + "', which stays as it is.");
 }
 
-ado::Recordset Engine::execute(std::string_view text) {
+ado::Recordset Engine::carry_out(std::string_view text) {
   if (text.size() > static_cast<std::size_t>(sqlite3_limit(database_.get(), SQLITE_LIMIT_SQL_LENGTH, -1))) {
     throw ado::RuntimeError(ado::error::provider_failed, "The statement is too long.");
   }

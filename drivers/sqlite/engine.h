@@ -12,6 +12,7 @@
 
 #include "brunvik/ado/recordset.h"
 #include "drivers/dialects/cutter.h"
+#include "drivers/dialects/host_transaction.h"
 #include "drivers/sqlite/catalogue.h"
 #include "drivers/sqlite/connection.h"
 #include "drivers/sqlite/dialects.h"
@@ -27,6 +28,9 @@ class Engine {
   Engine& operator=(const Engine&) = delete;
 
   ado::Recordset execute(std::string_view text);
+  void begin();
+  void commit();
+  void roll_back();
   std::size_t cached_statements() const noexcept { return shapes_.size(); }
   std::size_t held_bytes() const noexcept { return cutter_.held_bytes() + shapes_.held_bytes(); }
 
@@ -37,6 +41,15 @@ class Engine {
 
   // Refuses the database of another program.
   void expect_known_tables(const std::string& path, const Options& options);
+
+  ado::Recordset carry_out(std::string_view text);
+
+  // Whether a transaction is open, by the engine's own account: it knows those begun as text, too, and the ones that it
+  // has rolled back itself.
+  bool in_transaction() const noexcept { return sqlite3_get_autocommit(database_.get()) == 0; }
+
+  // After a statement that failed, in the catch clause.
+  void see_what_failed() noexcept;
 
   // A statement that doesn't work on rows goes to the engine as it stands.
   ado::Recordset execute_as_it_stands(std::string_view text);
@@ -56,6 +69,7 @@ class Engine {
   std::vector<Literal> literals_;  // of a statement that was known
   std::optional<Shape> unkept_;
   Statement schema_version_;
+  dialects::HostTransaction transaction_;
 };
 
 }  // namespace brunvik::sqlite

@@ -4,8 +4,8 @@
 
 namespace brunvik::test {
 
-std::shared_ptr<sqlite::Connection> lay_books() {
-  auto books = sqlite::open(":memory:");
+std::shared_ptr<sqlite::Connection> lay_books(const std::string& path) {
+  auto books = sqlite::open(path, {.synchronous = sqlite::Synchronous::normal, .create = true});
   run(*books, schema::statements(schema::Engine::sqlite));
   return books;
 }

@@ -1,4 +1,4 @@
-// Books in a SQLite database in memory, laid as a host would lay them.
+// Books in a SQLite database, in memory unless said otherwise, laid as a host would lay them.
 #pragma once
 
 #include <memory>
@@ -11,7 +11,8 @@
 
 namespace brunvik::test {
 
-std::shared_ptr<sqlite::Connection> lay_books();
+// In a file where a path is given; its last moments may be lost with the power.
+std::shared_ptr<sqlite::Connection> lay_books(const std::string& path = ":memory:");
 
 // Runs statements, one after the other.
 void run(ado::Connection& books, const std::vector<std::string>& statements);

@@ -27,11 +27,19 @@ class RehearsedConnection final : public ado::Connection {
   RehearsedConnection(ado::ConnectionReference driver, std::string_view road, std::shared_ptr<Rehearsal> rehearsal);
 
   ado::Recordset Execute(std::string_view CommandText) override;
+
+  // Seen by their names, as if they were statements.
+  void BeginTrans() override;
+  void CommitTrans() override;
+  void RollbackTrans() override;
+
   Long State() const noexcept override { return closed ? 0 : driver_->State(); }
 
   bool closed = false;
 
  private:
+  void hand_over(std::string_view statement);
+
   ado::ConnectionReference driver_;
   std::string road_;
   std::shared_ptr<Rehearsal> rehearsal_;

@@ -27,6 +27,12 @@ class ScriptedConnection final : public ado::Connection {
 
   // Without an answer of its own a select finds no record, and any other statement gives a closed set.
   ado::Recordset Execute(std::string_view CommandText) override;
+
+  // Remembered by their names, and answered as statements are.
+  void BeginTrans() override { Execute("BeginTrans"); }
+  void CommitTrans() override { Execute("CommitTrans"); }
+  void RollbackTrans() override { Execute("RollbackTrans"); }
+
   Long State() const noexcept override { return closed ? 0 : 1; }
 
   bool closed = false;
