@@ -3,14 +3,18 @@ include(CMakePackageConfigHelpers)
 
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/brunvik)
 
-# The driver is an export of its own: a host that brings its own connection needs no SQLite.
+# Each driver is an export of its own: a host that brings its own connection needs neither SQLite nor ODBC.
 install(TARGETS brunvik brunvik_dialects brunvik_schema EXPORT brunvikCore)
 install(TARGETS brunvik_sqlite EXPORT brunvikSqlite)
+install(TARGETS brunvik_odbc EXPORT brunvikOdbc)
 install(EXPORT brunvikCore NAMESPACE brunvik:: DESTINATION ${package_folder})
 install(EXPORT brunvikSqlite NAMESPACE brunvik:: DESTINATION ${package_folder})
+install(EXPORT brunvikOdbc NAMESPACE brunvik:: DESTINATION ${package_folder})
 
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/brunvik DESTINATION ${BRUNVIK_INCLUDE_FOLDER} FILES_MATCHING PATTERN "*.h")
 install(FILES ${PROJECT_SOURCE_DIR}/drivers/sqlite/connection.h DESTINATION ${BRUNVIK_INCLUDE_FOLDER}/drivers/sqlite)
+install(FILES ${PROJECT_SOURCE_DIR}/drivers/odbc/connection.h ${PROJECT_SOURCE_DIR}/drivers/odbc/address.h
+        DESTINATION ${BRUNVIK_INCLUDE_FOLDER}/drivers/odbc)
 install(FILES ${PROJECT_SOURCE_DIR}/schema/ddl.h DESTINATION ${BRUNVIK_INCLUDE_FOLDER}/schema)
 
 configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/brunvikConfig.cmake.in
@@ -39,6 +43,8 @@ brunvik_pkg_config(brunvik-dialects LIBRARY brunvik_dialects REQUIRES brunvik
                    DESCRIPTION "What the drivers of brunvik share")
 brunvik_pkg_config(brunvik-sqlite LIBRARY brunvik_sqlite REQUIRES brunvik-dialects REQUIRES_PRIVATE sqlite3
                    DESCRIPTION "A connection of brunvik to a SQLite database")
+brunvik_pkg_config(brunvik-odbc LIBRARY brunvik_odbc REQUIRES brunvik-dialects REQUIRES_PRIVATE odbc
+                   DESCRIPTION "A connection of brunvik to a database on a server")
 brunvik_pkg_config(brunvik-schema LIBRARY brunvik_schema
                    DESCRIPTION "The statements that lay the tables of brunvik")
 

@@ -1,24 +1,32 @@
 #include "host/database.h"
 
-#include <filesystem>
-
 #include "brunvik/ado/errors.h"
-#include "drivers/sqlite/connection.h"
-#include "schema/ddl.h"
+#include "host/file_database.h"
+#include "host/server_database.h"
 #include "schema/tables.h"
 
 namespace brunvik::host {
 
 namespace {
 
-constexpr std::string_view scheme = "sqlite:";
+constexpr std::string_view file_scheme = "sqlite:";
+constexpr std::string_view server_scheme = "odbc:";
+
+bool is_on_a_server(const std::string& address) {
+  return address.starts_with(server_scheme) && address.size() > server_scheme.size();
+}
+
+std::string on_server(const std::string& address) { return address.substr(server_scheme.size()); }
 
 std::string path_in(const std::string& address) {
-  if (!address.starts_with(scheme) || address.size() == scheme.size()) {
-    throw UnknownAddress("'" + address + "' is no database: sqlite:PATH or sqlite::memory: is one");
+  if (!address.starts_with(file_scheme) || address.size() == file_scheme.size()) {
+    throw UnknownAddress("'" + shown_address(address) +
+                         "' is no database: sqlite:PATH, sqlite::memory: and odbc:CONNECTION STRING are");
   }
-  return address.substr(scheme.size());
+  return address.substr(file_scheme.size());
 }
+
+}  // namespace
 
 std::vector<std::string> names_of_tables() {
   std::vector<std::string> names;
@@ -26,55 +34,20 @@ std::vector<std::string> names_of_tables() {
   return names;
 }
 
-ado::ConnectionReference opened(const std::string& path, bool create) {
-  try {
-    return sqlite::open(path, {.create = create, .known_tables = names_of_tables()});
-  } catch (const ado::RuntimeError& failure) {
-    throw ado::RuntimeError(failure.number(), "the database '" + path + "' can't be opened: " + failure.description());
-  }
+std::string address_of_file(const std::string& path) { return std::string(file_scheme) + path; }
+
+std::string file_at(const std::string& address) {
+  return address == in_memory || is_on_a_server(address) ? std::string() : path_in(address);
 }
 
-bool is_empty(ado::Connection& database) {
-  return database.Execute("select count(*) as entries from sqlite_master").value("entries").as_long() == 0;
+Database open_database(const std::string& address, bool create) {
+  if (is_on_a_server(address)) return open_server(on_server(address), create);
+  return {open_file(path_in(address), create), schema::Engine::sqlite};
 }
 
-// Whether the tables were laid, which they are in an empty database. All of them or none: one whose laying was cut off
-// must not look as if it were in use.
-bool lay_tables(ado::Connection& database) {
-  bool empty = false;
-  all_or_nothing(database, [&] {
-    empty = is_empty(database);
-    if (!empty) return;
-    for (const std::string& statement : schema::statements(schema::Engine::sqlite)) database.Execute(statement);
-  });
-  return empty;
-}
-
-}  // namespace
-
-std::string address_of_file(const std::string& path) { return std::string(scheme) + path; }
-
-std::string file_at(const std::string& address) { return address == in_memory ? std::string() : path_in(address); }
-
-ado::ConnectionReference open_database(const std::string& address, bool create) {
-  const std::string path = path_in(address);
-  std::error_code ignored;
-  if (address != in_memory && !create && !std::filesystem::exists(path, ignored)) {
-    throw ado::RuntimeError(ado::error::provider_failed,
-                            "there is no database '" + path + "' (--create makes one with its tables)");
-  }
-  auto database = opened(path, create);
-  if (create || address == in_memory) lay_tables(*database);
-  return database;
-}
-
-ado::ConnectionReference open_fresh_database(const std::string& address) {
-  auto database = opened(path_in(address), true);
-  if (!lay_tables(*database)) {
-    throw ado::RuntimeError(ado::error::provider_failed,
-                            "'" + file_at(address) + "' is in use already, and stays as it is");
-  }
-  return database;
+Database open_fresh_database(const std::string& address) {
+  if (is_on_a_server(address)) return open_fresh_server(on_server(address));
+  return {open_fresh_file(path_in(address)), schema::Engine::sqlite};
 }
 
 void all_or_nothing(ado::Connection& database, const std::function<void()>& work) {

@@ -1,12 +1,15 @@
-// Databases by their address: "sqlite:PATH", or "sqlite::memory:" for one that lives as long as the process.
+// Databases by their address: "sqlite:PATH", or "sqlite::memory:" for one that lives as long as the process;
+// "odbc:CONNECTION STRING" for one on a server, several strings joined by "||" for that of a cluster.
 #pragma once
 
 #include <functional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "brunvik/ado/connection.h"
+#include "schema/ddl.h"
 
 namespace brunvik::host {
 
@@ -18,19 +21,29 @@ class UnknownAddress : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-// The path of the file at an address; empty where the database lives in memory.
+struct Database {
+  ado::ConnectionReference connection;
+  schema::Engine engine;
+};
+
+// The path of the file at an address; empty where the database lives in memory or on a server.
 std::string file_at(const std::string& address);
 std::string address_of_file(const std::string& path);
 
 // Opens the database. `create` makes the file where there is none, and lays the tables in an empty database; the
-// memory is always new and gets them in any case. Throws an UnknownAddress, or a RuntimeError that says what is in the
-// way; a database that has tables, and none of the books', is refused and stays as it is.
-ado::ConnectionReference open_database(const std::string& address, bool create);
+// memory is always new and gets them in any case. A password that a connection string lacks is taken from the
+// environment, BRUNVIK_PASSWORD. Throws an UnknownAddress, or a RuntimeError that says what is in the way, without any
+// password; a database that has tables, and none of the books', is refused and stays as it is.
+Database open_database(const std::string& address, bool create);
 
 // Makes the file where there is none and lays the tables. Throws where anything stands in the database already.
-ado::ConnectionReference open_fresh_database(const std::string& address);
+Database open_fresh_database(const std::string& address);
 
-// Does the work in one transaction: what throws out of it leaves the database as it was.
+// The names of the books' tables.
+std::vector<std::string> names_of_tables();
+
+// Does the work in one transaction: what throws out of it leaves the database as it was. A server ends the transaction
+// at each statement that lays a table, so there it leaves what was laid before.
 void all_or_nothing(ado::Connection& database, const std::function<void()>& work);
 
 }  // namespace brunvik::host

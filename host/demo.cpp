@@ -113,7 +113,7 @@ void play(const Story& story, Interpreter& interpreter, std::ostream& out) {
 
 void demo(const Story& story, const DemoOptions& options, std::ostream& out) {
   const std::string address = options.address.empty() ? address_of_file(fresh_file()) : options.address;
-  Interpreter interpreter(open_fresh_database(address), options.settings);
+  Interpreter interpreter(open_fresh_database(address).connection, options.settings);
   play(story, interpreter, out);
   if (const std::string file = file_at(address); !file.empty()) say_what_is_next(file, options.command, out);
 }

@@ -1,42 +1,90 @@
 #include "host/laid_tables.h"
 
+#include <algorithm>
 #include <utility>
 
-#include "host/database.h"
 #include "schema/ddl.h"
-#include "schema/tables.h"
 
 namespace brunvik::host {
 
 namespace {
 
-// SQLite's own way to tell what is there; another engine has another. A table without columns isn't there.
-std::vector<schema::LaidTable> laid_tables(ado::Connection& database) {
-  std::vector<schema::LaidTable> tables;
-  for (const schema::Table& described : schema::tables()) {
-    schema::LaidTable table{std::string(described.name), {}, {}};
-    ado::Recordset columns = database.Execute("pragma table_info(" + table.name + ")");
+using Laid = std::vector<schema::LaidTable>;
+
+// A table without columns isn't there.
+Laid laid_in_a_file(ado::Connection& database) {
+  Laid tables;
+  for (const std::string& name : names_of_tables()) {
+    schema::LaidTable table{name, {}, {}};
+    ado::Recordset columns = database.Execute("pragma table_info(" + name + ")");
     for (; !columns.at_end(); columns.MoveNext()) table.columns.push_back(columns.value("name").as_text());
     if (table.columns.empty()) continue;
-    ado::Recordset indexes = database.Execute("pragma index_list(" + table.name + ")");
+    ado::Recordset indexes = database.Execute("pragma index_list(" + name + ")");
     for (; !indexes.at_end(); indexes.MoveNext()) table.indexes.push_back(indexes.value("name").as_text());
     tables.push_back(std::move(table));
   }
   return tables;
 }
 
-}  // namespace
-
-std::vector<std::string> lacking_statements(ado::Connection& database) {
-  return schema::lacking_statements(schema::Engine::sqlite, laid_tables(database));
+std::string_view names_of_indexes(schema::Engine engine) {
+  return engine == schema::Engine::mariadb
+             ? "select distinct table_name as t, index_name as name from information_schema.statistics "
+               "where table_schema=database()"
+             : "select object_name(object_id) as t, name from sys.indexes where name is not null";
 }
 
-std::vector<std::string> add_what_is_lacking(ado::Connection& database) {
+std::string_view names_of_columns(schema::Engine engine) {
+  return engine == schema::Engine::mariadb
+             ? "select table_name as t, column_name as name from information_schema.columns "
+               "where table_schema=database() order by table_name, ordinal_position"
+             : "select table_name as t, column_name as name from information_schema.columns "
+               "where table_schema=schema_name() order by table_name, ordinal_position";
+}
+
+Laid laid_on_a_server(ado::Connection& database, schema::Engine engine) {
+  Laid tables;
+  ado::Recordset columns = database.Execute(names_of_columns(engine));
+  for (; !columns.at_end(); columns.MoveNext()) {
+    const std::string name = columns.value("t").as_text();
+    if (tables.empty() || tables.back().name != name) tables.push_back({name, {}, {}});
+    tables.back().columns.push_back(columns.value("name").as_text());
+  }
+  ado::Recordset indexes = database.Execute(names_of_indexes(engine));
+  for (; !indexes.at_end(); indexes.MoveNext()) {
+    const std::string name = indexes.value("t").as_text();
+    const auto table =
+        std::find_if(tables.begin(), tables.end(), [&name](const auto& laid) { return laid.name == name; });
+    if (table != tables.end()) table->indexes.push_back(indexes.value("name").as_text());
+  }
+  return tables;
+}
+
+Laid laid_tables(const Database& database) {
+  if (database.engine == schema::Engine::sqlite) return laid_in_a_file(*database.connection);
+  return laid_on_a_server(*database.connection, database.engine);
+}
+
+void lay(const Database& database, const std::vector<std::string>& statements) {
+  for (const std::string& statement : statements) database.connection->Execute(statement);
+}
+
+}  // namespace
+
+std::vector<std::string> lacking_statements(const Database& database) {
+  return schema::lacking_statements(database.engine, laid_tables(database));
+}
+
+std::vector<std::string> add_what_is_lacking(const Database& database) {
   std::vector<std::string> statements;
-  all_or_nothing(database, [&] {
+  const auto add = [&] {
     statements = lacking_statements(database);
-    for (const std::string& statement : statements) database.Execute(statement);
-  });
+    lay(database, statements);
+  };
+  if (database.engine == schema::Engine::sqlite) {
+    all_or_nothing(*database.connection, add);
+  } else {
+    add();
+  }
   return statements;
 }
 

@@ -4,14 +4,15 @@
 #include <string>
 #include <vector>
 
-#include "brunvik/ado/connection.h"
+#include "host/database.h"
 
 namespace brunvik::host {
 
 // The statements that lay what is lacking. Nothing is changed.
-std::vector<std::string> lacking_statements(ado::Connection& database);
+std::vector<std::string> lacking_statements(const Database& database);
 
-// Lays what is lacking, all of it or nothing, and gives the statements that did. Throws what the database throws.
-std::vector<std::string> add_what_is_lacking(ado::Connection& database);
+// Lays what is lacking and gives the statements that did. All of it or nothing in a file; on a server, which keeps each
+// statement by itself, what was laid before a failure stays. Throws what the database throws.
+std::vector<std::string> add_what_is_lacking(const Database& database);
 
 }  // namespace brunvik::host

@@ -72,8 +72,9 @@ std::string no_engine(const std::string& name) {
 
 void add_session_options(CLI::App& command, Options& options, const std::string& otherwise) {
   command
-      .add_option("--db", options.database,
-                  "The database, sqlite:PATH or sqlite::memory:; " + otherwise + " unless given")
+      .add_option(
+          "--db", options.database,
+          "The database, sqlite:PATH, sqlite::memory: or odbc:CONNECTION STRING; " + otherwise + " unless given")
       ->type_name("URL");
   command.add_option("--dialect", options.dialect, "The dialect of the statements; sqlserver unless given")
       ->type_name("NAME")
@@ -117,7 +118,8 @@ int run_command(const Options& options) {
     std::cerr << "brunvik: no --db is given; the books are in memory, and gone when the run ends\n";
   }
   host::Interpreter interpreter(
-      host::open_database(options.database.empty() ? std::string(host::in_memory) : options.database, options.create),
+      host::open_database(options.database.empty() ? std::string(host::in_memory) : options.database, options.create)
+          .connection,
       options.settings);
   try {
     const int status = run_lines(options, interpreter);
@@ -175,7 +177,7 @@ int schema_command(const Options& options) {
     statements = schema::statements(engine->engine);
   } else {
     const auto database = host::open_database(options.database, false);
-    statements = options.apply ? host::add_what_is_lacking(*database) : host::lacking_statements(*database);
+    statements = options.apply ? host::add_what_is_lacking(database) : host::lacking_statements(database);
   }
   for (const std::string& statement : statements) std::cout << statement << ";\n";
   return done;

@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
+#include <map>
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <stdexcept>
@@ -17,6 +18,7 @@
 #include "schema/ddl.h"
 #include "tests/support/apartment.h"
 #include "tests/support/folder.h"
+#include "tests/support/mariadb.h"
 
 namespace {
 
@@ -27,16 +29,33 @@ namespace files = std::filesystem;
 const files::path case_folder = BRUNVIK_CASES;
 
 // Laying the tables takes longer than most cases do. So they are laid once for all cases of a process: in a file, of
-// which each case gets a copy, and in a memory, of which a case gets the use until what it did is rolled back.
+// which each case gets a copy, and in a memory and on a server, of which a case gets the use until what it did is
+// rolled back.
 ado::ConnectionReference lay_tables(ado::ConnectionReference database) {
   for (const std::string& statement : schema::statements(schema::Engine::sqlite)) database->Execute(statement);
   return database;
 }
 
-ado::ConnectionReference use_of_a_memory() {
-  static const ado::ConnectionReference memory = lay_tables(sqlite::open(":memory:"));
-  memory->BeginTrans();
-  return {memory.get(), [](ado::Connection* used) { used->RollbackTrans(); }};
+ado::ConnectionReference use_of(const ado::ConnectionReference& database) {
+  database->BeginTrans();
+  return {database.get(), [](ado::Connection* used) { used->RollbackTrans(); }};
+}
+
+ado::ConnectionReference memory(bool to_itself) {
+  if (to_itself) return lay_tables(sqlite::open(":memory:"));
+  static const ado::ConnectionReference shared = lay_tables(sqlite::open(":memory:"));
+  return use_of(shared);
+}
+
+ado::ConnectionReference mariadb(bool to_itself) {
+  if (to_itself) {
+    auto books = std::make_shared<test::MariaDbBooks>();
+    auto database = books->open();
+    return {database.get(), [books, database](ado::Connection*) { database->Close(); }};
+  }
+  static const test::MariaDbBooks books;
+  static const ado::ConnectionReference shared = books.open();
+  return use_of(shared);
 }
 
 ado::ConnectionReference copy_of_a_file(const Folder& folder) {
@@ -53,19 +72,21 @@ ado::ConnectionReference copy_of_a_file(const Folder& folder) {
 struct Engine {
   std::string name;
   // A database with the books' tables and nothing in them, on files, where it needs any, in a folder that goes with the
-  // case. One for a case that opens a transaction of its own is in none.
-  std::function<ado::ConnectionReference(const Folder& folder, bool has_transactions)> open;
+  // case. A case that opens a transaction of its own or drops a table has one to itself.
+  std::function<ado::ConnectionReference(const Folder& folder, bool to_itself)> open;
 };
 
 // The engines that the cases are run on.
 const std::vector<Engine>& engines() {
-  static const std::vector<Engine> list{
-      {"sqlite_memory",
-       [](const Folder&, bool has_transactions) {
-         return has_transactions ? lay_tables(sqlite::open(":memory:")) : use_of_a_memory();
-       }},
-      {"sqlite_file", [](const Folder& folder, bool) { return copy_of_a_file(folder); }},
-  };
+  static const std::vector<Engine> list = [] {
+    std::vector<Engine> engines{
+        {"sqlite_memory", [](const Folder&, bool to_itself) { return memory(to_itself); }},
+        {"sqlite_file", [](const Folder& folder, bool) { return copy_of_a_file(folder); }},
+    };
+    if (test::has_mariadb())
+      engines.push_back({"mariadb", [](const Folder&, bool to_itself) { return mariadb(to_itself); }});
+    return engines;
+  }();
   return list;
 }
 
@@ -79,7 +100,8 @@ const std::array<Dialect, 2> dialects{{{"sqlserver", "[Microsoft SQL Server]"}, 
 struct Step {
   std::size_t line = 0;
   std::string sent;
-  std::string expected = {};  // empty: anything but a refusal
+  std::string expected = {};                            // empty: anything but a refusal
+  std::map<std::string, std::string> expected_on = {};  // by the engine's name, where it answers otherwise
 };
 
 struct Case {
@@ -103,6 +125,9 @@ Case read_case(const files::path& path) {
     const char kind = line.empty() ? '#' : line.front();
     if (kind == '>') {
       read.steps.push_back({number, content});
+    } else if (kind == '<' && !read.steps.empty() && std::isalpha(static_cast<unsigned char>(line[1]))) {
+      const std::size_t behind_name = line.find(' ');
+      read.steps.back().expected_on[line.substr(1, behind_name - 1)] += trimmed(line.substr(behind_name));
     } else if (kind == '<' && !read.steps.empty()) {
       read.steps.back().expected += content;
     } else if (kind == '@' && content.starts_with("dialect ")) {
@@ -123,9 +148,10 @@ Case read_case(const files::path& path) {
   return read;
 }
 
-bool has_transactions(const Case& told) {
-  return std::any_of(told.steps.begin(), told.steps.end(),
-                     [](const Step& step) { return step.sent.find("\"transaction\"") != std::string::npos; });
+bool needs_a_database_to_itself(const Case& told) {
+  return std::any_of(told.steps.begin(), told.steps.end(), [](const Step& step) {
+    return step.sent.find("\"transaction\"") != std::string::npos || step.sent.find("drop table") != std::string::npos;
+  });
 }
 
 bool same_text(const std::string& expected, const std::string& actual) {
@@ -159,11 +185,13 @@ std::optional<std::string> difference(const json& expected, const json& actual, 
   return expected == actual ? std::nullopt : std::optional(differs(place));
 }
 
-std::optional<std::string> difference(const Step& step, const json& answer) {
-  if (step.expected.empty()) {
+std::optional<std::string> difference(const Step& step, const json& answer, const std::string& engine) {
+  const auto own = step.expected_on.find(engine);
+  const std::string& told = own == step.expected_on.end() ? step.expected : own->second;
+  if (told.empty()) {
     return answer.contains("error") ? std::optional<std::string>("is refused") : std::nullopt;
   }
-  const json expected = json::parse(step.expected);
+  const json expected = json::parse(told);
   if (auto found = difference(expected, answer)) return found;
   if (answer.contains("error") && !expected.contains("error")) return "is refused";
   if (!expected.contains("notices") && answer.contains("notices") && !answer["notices"].empty()) {
@@ -190,11 +218,11 @@ TEST_P(Cases, come_out_as_told) {
   const test::Session session;
   const Folder folder;
   const Case told = read_case(path);
-  const ado::ConnectionReference database = engine->open(folder, has_transactions(told));
+  const ado::ConnectionReference database = engine->open(folder, needs_a_database_to_itself(told));
   host::Interpreter interpreter(database, {.dialect = dialect->session_name, .operator_id = "u1", .trace = true});
   for (const Step& step : told.steps) {
     const json answer = json::parse(interpreter.answer(step.sent));
-    if (const auto found = difference(step, answer)) {
+    if (const auto found = difference(step, answer, engine->name)) {
       ADD_FAILURE_AT(path.c_str(), static_cast<int>(step.line))
           << *found << "\n  sent:     " << step.sent << "\n  answer:   " << answer.dump();
     }

@@ -83,10 +83,10 @@ class FaultRuns : public ::testing::Test {
     return outcome;
   }
 
-  static std::shared_ptr<sqlite::Connection> books_;
+  static ado::ConnectionReference books_;
 };
 
-std::shared_ptr<sqlite::Connection> FaultRuns::books_;
+ado::ConnectionReference FaultRuns::books_;
 
 class Faults : public FaultRuns, public ::testing::WithParamInterface<Verb> {};
 class FaultsOfAConnection : public FaultRuns {};
@@ -202,7 +202,7 @@ class FaultsInTheBooks : public ::testing::Test {
     return automation::call(*object, verb, arguments).as_long();
   }
 
-  std::shared_ptr<sqlite::Connection> books = lay_books();
+  ado::ConnectionReference books = lay_books();
   std::shared_ptr<Rehearsal> rehearsal = std::make_shared<Rehearsal>();
   ado::ConnectionReference bill = std::make_shared<RehearsedConnection>(books, "bill", rehearsal);
   Session session{std::make_shared<RehearsedConnection>(books, "session", rehearsal)};

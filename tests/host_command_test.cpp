@@ -144,7 +144,7 @@ TEST(HostCommand, Bad_usage_is_status_2_and_says_why) {
                                                      {"run", "--dialect", "oracle"},
                                                      {"run", "--db", "books.db"},
                                                      {"run", "--db", "sqlite:"},
-                                                     {"run", "--db", "odbc:books"},
+                                                     {"run", "--db", "odbc:"},
                                                      {"run", "--now", "soon"},
                                                      {"run", "/no/such/file"},
                                                      {"demo", "--now", "soon"},

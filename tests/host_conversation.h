@@ -42,7 +42,7 @@ class HostTest : public testing::Test {
     return settings;
   }
 
-  ado::ConnectionReference database = open_database("sqlite::memory:", true);
+  ado::ConnectionReference database = open_database("sqlite::memory:", true).connection;
   Interpreter interpreter{database, Settings{}};
 };
 

@@ -13,7 +13,7 @@ namespace brunvik::host {
 namespace {
 
 std::string played(const std::string& text) {
-  Interpreter interpreter(open_fresh_database(std::string(in_memory)), {});
+  Interpreter interpreter(open_fresh_database(std::string(in_memory)).connection, {});
   std::ostringstream out;
   play(read_story("mine", "我的故事\n" + text), interpreter, out);
   return out.str();

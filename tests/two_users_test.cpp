@@ -10,6 +10,7 @@
 #include "brunvik/ado/wire.h"
 #include "brunvik/purchasing/purchase_receipt.h"
 #include "brunvik/warehouse/other_stock_document.h"
+#include "drivers/sqlite/connection.h"
 #include "tests/support/apartment.h"
 #include "tests/support/books.h"
 #include "tests/support/folder.h"

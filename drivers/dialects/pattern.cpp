@@ -1,8 +1,20 @@
 #include "drivers/dialects/pattern.h"
 
+#include <algorithm>
 #include <stdexcept>
 
+#include "brunvik/ado/names.h"
+
 namespace brunvik::dialects {
+
+namespace {
+
+bool is_letter_or_digit(char c) {
+  const char small = ado::lower(c);
+  return (small >= 'a' && small <= 'z') || (c >= '0' && c <= '9');
+}
+
+}  // namespace
 
 std::vector<PatternElement> elements_of(std::string_view pattern) {
   using Kind = PatternElement::Kind;
@@ -41,6 +53,19 @@ std::size_t length_of_character(std::string_view text) noexcept {
 std::string_view list_at(std::string_view pattern) noexcept {
   const std::size_t end = pattern.find(']', 2);
   return end == std::string_view::npos ? std::string_view() : pattern.substr(1, end - 1);
+}
+
+std::string_view plain_beginning(std::string_view literal) noexcept {
+  if (literal.size() < 4 || !literal.ends_with("%'")) return {};
+  const std::string_view beginning = literal.substr(1, literal.size() - 3);
+  return std::all_of(beginning.begin(), beginning.end(), is_letter_or_digit) ? beginning : std::string_view();
+}
+
+// No letter or digit is the last character of its kind.
+std::string behind_all_that_begin(std::string_view beginning) {
+  std::string behind(beginning);
+  behind.back() = static_cast<char>(ado::lower(behind.back()) + 1);
+  return behind;
 }
 
 std::string plain_text(std::string_view literal) {

@@ -25,6 +25,12 @@ std::size_t length_of_character(std::string_view text) noexcept;
 // list; empty without an end.
 std::string_view list_at(std::string_view pattern) noexcept;
 
+// XSC of the literal 'XSC%'; empty where the pattern is more than a beginning of ASCII letters and digits.
+std::string_view plain_beginning(std::string_view literal) noexcept;
+
+// The first text behind all that begin so, in the order of an index: XSD.
+std::string behind_all_that_begin(std::string_view beginning);
+
 // A literal without its apostrophes, each apostrophe in it once; and the literal of a text.
 std::string plain_text(std::string_view literal);
 std::string quoted(std::string_view text);

@@ -233,8 +233,15 @@ std::size_t Rewriter::write_path(std::size_t place, std::size_t end) {
 void Rewriter::write(std::size_t place) {
   const Token& token = tokens_[place];
   if (token.is_symbol(";")) throw std::invalid_argument("A text holds one statement.");
-  const bool is_value = token.kind == TokenKind::parameter || token.kind == TokenKind::date;
-  out_.write(is_value ? value(token) : std::string(token.text), token.blank_before);
+  switch (token.kind) {
+    case TokenKind::parameter:
+    case TokenKind::date:
+      return out_.write(value(token), token.blank_before);
+    case TokenKind::name:
+      return out_.write(name(token), token.blank_before);
+    default:
+      out_.write(token.text, token.blank_before);
+  }
 }
 
 std::vector<Token> statement_tokens(std::string_view shape) {

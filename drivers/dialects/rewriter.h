@@ -53,6 +53,9 @@ class Rewriter {
   // A value that was cut out, or a date that stays in the text.
   virtual std::string value(const Token& token) = 0;
 
+  // A name in brackets or quotation marks.
+  virtual std::string name(const Token& token) = 0;
+
   bool is(std::size_t place, std::string_view word) const { return place < tokens_.size() && tokens_[place].is(word); }
   bool is_symbol(std::size_t place, std::string_view symbol) const {
     return place < tokens_.size() && tokens_[place].is_symbol(symbol);

@@ -13,10 +13,11 @@
 #include "brunvik/ado/recordset.h"
 #include "drivers/dialects/cutter.h"
 #include "drivers/dialects/host_transaction.h"
+#include "drivers/dialects/shape_cache.h"
 #include "drivers/sqlite/catalogue.h"
 #include "drivers/sqlite/connection.h"
 #include "drivers/sqlite/dialects.h"
-#include "drivers/sqlite/shape_cache.h"
+#include "drivers/sqlite/shape.h"
 #include "drivers/sqlite/waiting.h"
 
 namespace brunvik::sqlite {
@@ -65,7 +66,7 @@ class Engine {
   Catalogue catalogue_;
   std::int64_t catalogue_version_ = 0;
   Cutter cutter_;
-  ShapeCache shapes_;
+  ShapeCache<Shape> shapes_;
   std::vector<Literal> literals_;  // of a statement that was known
   std::optional<Shape> unkept_;
   Statement schema_version_;

@@ -1,25 +1,10 @@
 #include "drivers/sqlite/neighbour.h"
 
-#include <algorithm>
 #include <string_view>
 
+#include "drivers/dialects/pattern.h"
+
 namespace brunvik::sqlite {
-
-namespace {
-
-bool is_letter_or_digit(char c) {
-  const char small = ado::lower(c);
-  return (small >= 'a' && small <= 'z') || (c >= '0' && c <= '9');
-}
-
-// XSC of 'XSC%'; empty where the pattern is another one.
-std::string_view beginning_of(std::string_view literal) {
-  if (literal.size() < 4 || !literal.ends_with("%'")) return {};
-  const std::string_view beginning = literal.substr(1, literal.size() - 3);
-  return std::all_of(beginning.begin(), beginning.end(), is_letter_or_digit) ? beginning : std::string_view();
-}
-
-}  // namespace
 
 std::optional<Neighbour> neighbour_in_series(std::span<const Token> tokens, std::size_t verb) {
   const auto is = [&](std::size_t place, std::string_view word) {
@@ -52,12 +37,10 @@ std::optional<Neighbour> neighbour_in_series(std::span<const Token> tokens, std:
   for (std::size_t place = pattern + 1; place < tokens.size(); ++place) {
     if (tokens[place].is("or") || tokens[place].is("escape")) return {};
   }
-  const std::string_view beginning = beginning_of(tokens[pattern].text);
+  const std::string_view beginning = dialects::plain_beginning(tokens[pattern].text);
   if (beginning.empty()) return {};
 
-  // The first text behind all that begin so. No letter or digit is the last character of its kind.
-  std::string behind(beginning);
-  behind.back() = static_cast<char>(ado::lower(behind.back()) + 1);
+  const std::string behind = dialects::behind_all_that_begin(beginning);
   const std::string name(tokens[compared].text);
   const std::string number = "?" + std::to_string(tokens[value].parameter + 1) + " COLLATE NOCASE";
   const std::string from = "'" + std::string(beginning) + "'";

@@ -5,11 +5,11 @@
 #include <span>
 #include <stdexcept>
 
+#include "drivers/dialects/highest_number.h"
 #include "drivers/dialects/rewriter.h"
 #include "drivers/sqlite/assignment.h"
 #include "drivers/sqlite/failure.h"
 #include "drivers/sqlite/functions.h"
-#include "drivers/sqlite/highest_number.h"
 #include "drivers/sqlite/neighbour.h"
 #include "drivers/sqlite/pattern.h"
 
@@ -19,6 +19,13 @@ namespace {
 
 // Whole amounts are kept as whole numbers, whose quotient would be cut off.
 std::string_view division(const Run& run) { return run.kind == Arithmetic::money ? "* 1.0 /" : "/"; }
+
+// The keys of a ledger that are more or less than the digits of a 32-bit number; books keep them in an index of this
+// very condition, so that it is known at once that there are none.
+std::string no_plain_number(std::string_view column) {
+  const std::string name(column);
+  return "length(" + name + ") NOT BETWEEN 1 AND 9 OR " + name + " GLOB '*[^0-9]*'";
+}
 
 class Rewriter final : public dialects::Rewriter {
  public:
@@ -46,10 +53,16 @@ class Rewriter final : public dialects::Rewriter {
     if (!found || !indexes_.has_number_index(bare_name(tokens_[end - 1]), bare_name(tokens_[found->column]))) {
       return false;
     }
+    const std::string column(tokens_[found->column].text);
+    const std::string table(tokens_[end - 1].text);
+    const std::string number = "CAST(" + column + " AS INTEGER)";
     write(verb);
-    out_.write(found->until_whole_column, true);
+    out_.write("(CASE WHEN EXISTS(SELECT 1 FROM " + table + " WHERE " + no_plain_number(column) + ") THEN (SELECT ",
+               true);
     range(verb + 1, found->column + 3);
-    out_.write(found->otherwise, true);
+    out_.write("FROM " + table + ") ELSE (SELECT " + number + " FROM " + table + " ORDER BY " + number +
+                   " COLLATE BINARY DESC LIMIT 1) END)",
+               true);
     for (std::size_t place = found->column + 3; place < found->from; ++place) write(place);
     return true;
   }
@@ -160,6 +173,9 @@ class Rewriter final : public dialects::Rewriter {
     text.front() = text.back() = '\'';
     return text;
   }
+
+  // The engine knows both kinds of names.
+  std::string name(const Token& token) override { return std::string(token.text); }
 
   Catalogue& indexes_;
   Rewritten result_;

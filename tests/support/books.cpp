@@ -1,10 +1,19 @@
 #include "tests/support/books.h"
 
+#include "drivers/sqlite/connection.h"
 #include "schema/ddl.h"
+#include "tests/support/mariadb.h"
 
 namespace brunvik::test {
 
-std::shared_ptr<sqlite::Connection> lay_books(const std::string& path) {
+ado::ConnectionReference lay_books() {
+  if (!has_mariadb()) return lay_books(":memory:");
+  auto laid = std::make_shared<MariaDbBooks>();
+  auto books = laid->open();
+  return {books.get(), [laid, books](ado::Connection*) { books->Close(); }};
+}
+
+ado::ConnectionReference lay_books(const std::string& path) {
   auto books = sqlite::open(path, {.synchronous = sqlite::Synchronous::normal, .create = true});
   run(*books, schema::statements(schema::Engine::sqlite));
   return books;

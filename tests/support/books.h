@@ -1,4 +1,4 @@
-// Books in a SQLite database, in memory unless said otherwise, laid as a host would lay them.
+// Books laid as a host would lay them.
 #pragma once
 
 #include <memory>
@@ -7,12 +7,14 @@
 #include <vector>
 
 #include "brunvik/ado/connection.h"
-#include "drivers/sqlite/connection.h"
 
 namespace brunvik::test {
 
-// In a file where a path is given; its last moments may be lost with the power.
-std::shared_ptr<sqlite::Connection> lay_books(const std::string& path = ":memory:");
+// In SQLite's memory; in a database of its own on the server that the run was given, where it was given one.
+ado::ConnectionReference lay_books();
+
+// In a file of SQLite; its last moments may be lost with the power.
+ado::ConnectionReference lay_books(const std::string& path);
 
 // Runs statements, one after the other.
 void run(ado::Connection& books, const std::vector<std::string>& statements);

@@ -10,22 +10,17 @@
 #include <cstddef>
 #include <optional>
 #include <span>
-#include <string>
 
 #include "drivers/dialects/tokens.h"
-#include "drivers/sqlite/dialects.h"
 
-namespace brunvik::sqlite {
+namespace brunvik::dialects {
 
 struct HighestNumber {
   std::size_t column;  // whose parentheses, two, close behind it
-  std::size_t from;    // where FROM stands, behind the name that the number is given
-  // What stands in front of the question as it is asked, and behind it.
-  std::string until_whole_column;
-  std::string otherwise;
+  std::size_t from;    // where FROM stands, behind the name that the number is given; the table is the last token
 };
 
 // The question in a SELECT whose verb stands at a place; empty where it is another one.
 std::optional<HighestNumber> highest_number_of_ledger(std::span<const Token> tokens, std::size_t verb, std::size_t end);
 
-}  // namespace brunvik::sqlite
+}  // namespace brunvik::dialects

@@ -1,0 +1,41 @@
+// Owners of ODBC's handles.
+#pragma once
+
+#include <sql.h>
+#include <sqlext.h>
+
+#include <utility>
+
+namespace brunvik::odbc {
+
+template <SQLSMALLINT Type>
+class Handle {
+ public:
+  Handle() = default;
+  Handle(Handle&& other) noexcept : handle_(std::exchange(other.handle_, nullptr)) {}
+  Handle& operator=(Handle&& other) noexcept {
+    std::swap(handle_, other.handle_);
+    return *this;
+  }
+  ~Handle() {
+    if (handle_) SQLFreeHandle(Type, handle_);
+  }
+  Handle(const Handle&) = delete;
+  Handle& operator=(const Handle&) = delete;
+
+  // Below the handle of the environment or of the connection. Without one where memory ran out, which the first use
+  // of the handle reports.
+  explicit Handle(SQLHANDLE parent) noexcept { SQLAllocHandle(Type, parent, &handle_); }
+
+  SQLHANDLE get() const noexcept { return handle_; }
+  static constexpr SQLSMALLINT type = Type;
+
+ private:
+  SQLHANDLE handle_ = SQL_NULL_HANDLE;
+};
+
+using Environment = Handle<SQL_HANDLE_ENV>;
+using Database = Handle<SQL_HANDLE_DBC>;
+using Statement = Handle<SQL_HANDLE_STMT>;
+
+}  // namespace brunvik::odbc

@@ -1,0 +1,67 @@
+#include "drivers/odbc/link.h"
+
+#include <array>
+#include <cstdint>
+
+#include "drivers/odbc/failure.h"
+#include "drivers/odbc/result_columns.h"
+
+namespace brunvik::odbc {
+
+namespace {
+
+// ODBC takes numbers in the place of pointers.
+SQLPOINTER as_attribute(std::uintptr_t number) noexcept { return reinterpret_cast<SQLPOINTER>(number); }
+
+SQLCHAR* as_characters(std::string_view text) noexcept {
+  return reinterpret_cast<SQLCHAR*>(const_cast<char*>(text.data()));
+}
+
+Environment made_environment() {
+  Environment environment(SQL_NULL_HANDLE);
+  expect(SQLSetEnvAttr(environment.get(), SQL_ATTR_ODBC_VERSION, as_attribute(SQL_OV_ODBC3), 0), environment);
+  return environment;
+}
+
+}  // namespace
+
+Link::Link(const std::string& connection_string, std::chrono::seconds time_to_open)
+    : environment_(made_environment()), database_(environment_.get()) {
+  SQLSetConnectAttr(database_.get(), SQL_ATTR_LOGIN_TIMEOUT,
+                    as_attribute(static_cast<std::uintptr_t>(time_to_open.count())), SQL_IS_UINTEGER);
+  const SQLRETURN result =
+      SQLDriverConnect(database_.get(), nullptr, as_characters(connection_string),
+                       static_cast<SQLSMALLINT>(connection_string.size()), nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT);
+  expect(result, database_);
+}
+
+Link::~Link() {
+  if (database_.get()) SQLDisconnect(database_.get());
+}
+
+std::string Link::told(SQLUSMALLINT what) const {
+  std::array<char, 256> text{};
+  SQLSMALLINT length = 0;
+  expect(SQLGetInfo(database_.get(), what, text.data(), static_cast<SQLSMALLINT>(text.size()), &length), database_);
+  return text.data();
+}
+
+std::string Link::engine_name() const { return told(SQL_DBMS_NAME); }
+
+std::string Link::engine_version() const { return told(SQL_DBMS_VER); }
+
+Statement Link::statement() const {
+  Statement statement(database_.get());
+  if (!statement.get()) throw Failure(diagnosis_of(database_));
+  SQLSetStmtAttr(statement.get(), SQL_ATTR_NOSCAN, as_attribute(SQL_NOSCAN_ON), SQL_IS_UINTEGER);
+  return statement;
+}
+
+ado::Recordset Link::execute(std::string_view text) const {
+  const Statement statement = this->statement();
+  expect(SQLExecDirect(statement.get(), as_characters(text), static_cast<SQLINTEGER>(text.size())), statement);
+  ResultColumns columns(statement, {});
+  return columns.empty() ? ado::Recordset() : columns.fetch(statement);
+}
+
+}  // namespace brunvik::odbc

@@ -1,0 +1,18 @@
+// What a MariaDB server and its database must be for the books, and what a connection sets for itself.
+#pragma once
+
+#include "drivers/odbc/connection.h"
+#include "drivers/odbc/link.h"
+
+namespace brunvik::odbc {
+
+// Throws a RuntimeError that names the setting where something is in the way that a connection can't mend: the case of
+// table names, the database's character set and collation. Throws a Failure of a lost connection where the server is a
+// node that is out of its cluster.
+void expect_usable(const Link& link);
+
+// Strict values, a backslash that is a character, every assignment of an update from the values before it, waiting
+// times; on a node of a cluster, no answer before what was committed elsewhere has arrived.
+void make_settings(const Link& link, const Options& options);
+
+}  // namespace brunvik::odbc

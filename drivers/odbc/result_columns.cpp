@@ -1,0 +1,181 @@
+#include "drivers/odbc/result_columns.h"
+
+#include <array>
+#include <cstdint>
+#include <cstring>
+#include <limits>
+
+#include "brunvik/ado/errors.h"
+#include "brunvik/ado/money.h"
+#include "drivers/odbc/failure.h"
+
+namespace brunvik::odbc {
+
+namespace {
+
+// Of a text, in bytes. A longer one is fetched piece by piece, so that its room isn't held for the next result.
+constexpr SQLULEN longest_bound = 4'096;
+
+// Its digits, the sign, the point and the end, and twice as many for another program's decimals.
+constexpr std::size_t room_of_amount = 80;
+
+bool is_of_a_table(const Statement& statement, SQLUSMALLINT number) {
+  std::array<char, 256> name{};
+  SQLSMALLINT length = 0;
+  const SQLRETURN result = SQLColAttribute(statement.get(), number, SQL_DESC_BASE_COLUMN_NAME, name.data(),
+                                           static_cast<SQLSMALLINT>(name.size()), &length, nullptr);
+  return SQL_SUCCEEDED(result) && name.front() != '\0';
+}
+
+ado::Value whole(std::int64_t number) {
+  if (number >= std::numeric_limits<Long>::min() && number <= std::numeric_limits<Long>::max()) {
+    return {static_cast<Long>(number)};
+  }
+  return {static_cast<Double>(number)};
+}
+
+// A total of whole numbers has no places; more than an amount's are rounded.
+ado::Value amount(std::string_view digits) {
+  if (digits.find('.') != std::string_view::npos) return {ado::Money::parse(digits)};
+  try {
+    return whole(std::stoll(std::string(digits)));
+  } catch (const std::out_of_range&) {
+    return {std::stod(std::string(digits))};
+  }
+}
+
+template <class Number>
+Number number_in(const std::vector<char>& place) {
+  Number number{};
+  std::memcpy(&number, place.data(), sizeof number);
+  return number;
+}
+
+// A text without a bound, in pieces.
+std::string long_text(const Statement& statement, SQLUSMALLINT number, bool& is_null) {
+  std::string text;
+  std::vector<char> piece(16 * 1'024);
+  for (;;) {
+    SQLLEN length = 0;
+    const SQLRETURN result =
+        SQLGetData(statement.get(), number, SQL_C_CHAR, piece.data(), static_cast<SQLLEN>(piece.size()), &length);
+    if (result == SQL_NO_DATA) return text;
+    expect(result, statement);
+    is_null = length == SQL_NULL_DATA;
+    if (is_null) return text;
+    const bool goes_on =
+        result == SQL_SUCCESS_WITH_INFO && (length == SQL_NO_TOTAL || std::size_t(length) >= piece.size());
+    text.append(piece.data(), goes_on ? piece.size() - 1 : static_cast<std::size_t>(length));
+    if (!goes_on) return text;
+    // What is left is known now, so the rest comes at once.
+    if (length != SQL_NO_TOTAL) piece.resize(static_cast<std::size_t>(length) + 1);
+  }
+}
+
+}  // namespace
+
+ResultColumns::Column ResultColumns::described(const Statement& statement, SQLUSMALLINT number, std::string& name) {
+  std::array<char, 512> told{};
+  SQLSMALLINT length = 0;
+  SQLSMALLINT type = 0;
+  SQLULEN size = 0;
+  SQLSMALLINT places = 0;
+  SQLSMALLINT nullable = 0;
+  expect(SQLDescribeCol(statement.get(), number, reinterpret_cast<SQLCHAR*>(told.data()),
+                        static_cast<SQLSMALLINT>(told.size()), &length, &type, &size, &places, &nullable),
+         statement);
+  name = told.data();
+  const auto column = [](Kind kind, SQLSMALLINT form, std::size_t room) {
+    return Column{kind, form, false, std::vector<char>(room)};
+  };
+  switch (type) {
+    case SQL_BIT:
+    case SQL_TINYINT:
+    case SQL_SMALLINT:
+    case SQL_INTEGER:
+    case SQL_BIGINT:
+      return column(Kind::whole, SQL_C_SBIGINT, sizeof(std::int64_t));
+    case SQL_DECIMAL:
+    case SQL_NUMERIC:
+      return column(Kind::amount, SQL_C_CHAR, room_of_amount);
+    case SQL_REAL:
+      return column(Kind::single, SQL_C_DOUBLE, sizeof(double));
+    case SQL_FLOAT:
+    case SQL_DOUBLE:
+      return column(is_of_a_table(statement, number) ? Kind::single : Kind::double_number, SQL_C_DOUBLE,
+                    sizeof(double));
+    default: {
+      constexpr SQLULEN longest_character = 4;
+      const bool is_long = size == 0 || size > longest_bound / longest_character;
+      Column text = column(Kind::text, SQL_C_CHAR, is_long ? 0 : size * longest_character + 1);
+      text.is_long = is_long;
+      return text;
+    }
+  }
+}
+
+ResultColumns::ResultColumns(const Statement& statement, const dialects::Selection& selection) {
+  SQLSMALLINT count = 0;
+  expect(SQLNumResultCols(statement.get(), &count), statement);
+  std::vector<std::string> names;
+  for (SQLSMALLINT place = 0; place < count; ++place) {
+    std::string name;
+    columns_.push_back(described(statement, static_cast<SQLUSMALLINT>(place + 1), name));
+    const auto* const written = selection.column(static_cast<std::size_t>(place), static_cast<std::size_t>(count));
+    names.push_back(written && !written->name.empty() ? written->name : std::move(name));
+  }
+  if (count > 0) names_ = std::make_shared<const ado::ColumnNames>(std::move(names));
+}
+
+void ResultColumns::bind(const Statement& statement) {
+  if (is_bound_) return;
+  SQLUSMALLINT number = 0;
+  for (Column& column : columns_) {
+    ++number;
+    if (column.is_long) continue;
+    expect(SQLBindCol(statement.get(), number, column.form, column.place.data(),
+                      static_cast<SQLLEN>(column.place.size()), &column.length),
+           statement);
+  }
+  is_bound_ = true;
+}
+
+ado::Value ResultColumns::value(const Statement& statement, std::size_t place) const {
+  const Column& column = columns_[place];
+  if (column.is_long) {
+    bool is_null = false;
+    std::string text = long_text(statement, static_cast<SQLUSMALLINT>(place + 1), is_null);
+    if (is_null) return {ado::Null{}};
+    return {std::string_view(text)};
+  }
+  if (column.length == SQL_NULL_DATA) return {ado::Null{}};
+  const std::string_view text(column.place.data(), static_cast<std::size_t>(column.length));
+  switch (column.kind) {
+    case Kind::whole:
+      return whole(number_in<std::int64_t>(column.place));
+    case Kind::single:
+      return {static_cast<Single>(number_in<double>(column.place))};
+    case Kind::double_number:
+      return {number_in<double>(column.place)};
+    case Kind::amount:
+      return amount(text);
+    default:
+      return {text};
+  }
+}
+
+ado::Recordset ResultColumns::fetch(const Statement& statement) {
+  bind(statement);
+  std::vector<ado::Value> cells;
+  for (;;) {
+    const SQLRETURN result = SQLFetch(statement.get());
+    if (result == SQL_NO_DATA) break;
+    expect(result, statement);
+    if (cells.capacity() - cells.size() < columns_.size()) cells.reserve(2 * cells.size() + columns_.size());
+    for (std::size_t place = 0; place < columns_.size(); ++place) cells.push_back(value(statement, place));
+  }
+  SQLFreeStmt(statement.get(), SQL_CLOSE);
+  return {names_, std::move(cells)};
+}
+
+}  // namespace brunvik::odbc
