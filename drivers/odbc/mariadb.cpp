@@ -72,9 +72,21 @@ MariaDb::MariaDb(Link link, const Options& options)
       seconds_to_wait_(std::to_string(options.busy_timeout.count())) {
   expect_usable(link_);
   make_settings(link_, options);
+  longest_statement_ = longest_statement(link_);
+}
+
+// In the engine's words a text with zero bytes is written in two digits for each byte.
+void MariaDb::expect_not_too_long(std::string_view statement) const {
+  const bool has_zeros = statement.find('\0') != std::string_view::npos;
+  const std::size_t bytes = has_zeros ? 2 * statement.size() : statement.size();
+  if (bytes <= longest_statement_) return;
+  throw ado::RuntimeError(ado::error::provider_failed,
+                          "The statement is too long for the server, whose max_allowed_packet is " +
+                              std::to_string(longest_statement_) + " bytes for a statement.");
 }
 
 ado::Recordset MariaDb::execute(std::string_view statement) {
+  expect_not_too_long(statement);
   const dialects::AtEnd let_go([this]() noexcept {
     unkept_.reset();
     cutter_.let_go();

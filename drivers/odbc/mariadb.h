@@ -41,6 +41,7 @@ class MariaDb final : public Server {
   std::string_view name() const noexcept override { return mariadb_name; }
 
  private:
+  void expect_not_too_long(std::string_view statement) const;
   void let_others_begin();
   ado::Recordset execute_as_it_stands(std::string_view statement);
   MariaDbShape& shape_of(std::string_view statement);
@@ -52,6 +53,7 @@ class MariaDb final : public Server {
   std::optional<MariaDbShape> unkept_;
   Statement direct_;
   std::string seconds_to_wait_;
+  std::size_t longest_statement_ = 0;
 };
 
 }  // namespace brunvik::odbc

@@ -65,4 +65,12 @@ void make_settings(const Link& link, const Options& options) {
   if (is_node(link)) link.execute("set session wsrep_sync_wait=1");
 }
 
+std::size_t longest_statement(const Link& link) {
+  // What the protocol puts around a statement and its values.
+  constexpr std::size_t around = 4'096;
+  const std::string packet =
+      link.execute("select cast(@@max_allowed_packet as char) as bytes").value("bytes").as_text();
+  return static_cast<std::size_t>(std::stoull(packet)) - around;
+}
+
 }  // namespace brunvik::odbc

@@ -1,6 +1,8 @@
 // What a MariaDB server and its database must be for the books, and what a connection sets for itself.
 #pragma once
 
+#include <cstddef>
+
 #include "drivers/odbc/connection.h"
 #include "drivers/odbc/link.h"
 
@@ -14,5 +16,8 @@ void expect_usable(const Link& link);
 // Strict values, a backslash that is a character, every assignment of an update from the values before it, waiting
 // times; on a node of a cluster, no answer before what was committed elsewhere has arrived.
 void make_settings(const Link& link, const Options& options);
+
+// How long a statement may be, in bytes. With a longer one the server closes the connection.
+std::size_t longest_statement(const Link& link);
 
 }  // namespace brunvik::odbc
