@@ -18,6 +18,7 @@ enum class LiteralKind : std::uint8_t { text, number, date };
 
 // The mark of a literal in a shape: a byte that no statement holds outside of its literals.
 constexpr char mark_of(LiteralKind kind) { return static_cast<char>(1 + static_cast<int>(kind)); }
+constexpr bool is_mark(char c) { return c >= mark_of(LiteralKind::text) && c <= mark_of(LiteralKind::date); }
 constexpr LiteralKind kind_of_mark(char mark) { return static_cast<LiteralKind>(mark - 1); }
 
 struct Literal {

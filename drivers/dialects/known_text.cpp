@@ -16,8 +16,6 @@ constexpr std::size_t head_end = 24;
 // A text with more values is no statement of the books, and the room for them would be kept.
 constexpr std::size_t most_values = 500;
 
-bool is_mark(char c) noexcept { return c >= mark_of(LiteralKind::text) && c <= mark_of(LiteralKind::date); }
-
 bool begins_with(const char* place, const char* end, const std::string& words) noexcept {
   if (static_cast<std::size_t>(end - place) < words.size()) return false;
   // The comma between two values of an insert.

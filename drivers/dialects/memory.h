@@ -8,10 +8,10 @@
 namespace brunvik::dialects {
 
 // Of the room for a statement's text and values.
-inline constexpr std::size_t largest_held = 64 * 1'024;
+inline constexpr std::size_t largest_held = std::size_t{64} * 1'024;
 
 // Of all statements that are kept prepared, as the engine counts them.
-inline constexpr std::size_t largest_cache = 16 * 1'024 * 1'024;
+inline constexpr std::size_t largest_cache = std::size_t{16} * 1'024 * 1'024;
 
 // Lets go of memory however a block ends.
 template <class Body>

@@ -11,8 +11,6 @@ namespace {
 
 bool is_blank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
 
-bool is_mark(char c) { return c >= mark_of(LiteralKind::text) && c <= mark_of(LiteralKind::date); }
-
 std::size_t end_of_digits(std::string_view shape, std::size_t place) {
   while (place < shape.size() && is_digit(shape[place])) ++place;
   return place;

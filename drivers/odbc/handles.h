@@ -4,6 +4,7 @@
 #include <sql.h>
 #include <sqlext.h>
 
+#include <string_view>
 #include <utility>
 
 namespace brunvik::odbc {
@@ -37,5 +38,10 @@ class Handle {
 using Environment = Handle<SQL_HANDLE_ENV>;
 using Database = Handle<SQL_HANDLE_DBC>;
 using Statement = Handle<SQL_HANDLE_STMT>;
+
+// ODBC reads a text through a pointer to what it could change.
+inline SQLCHAR* as_characters(std::string_view text) noexcept {
+  return reinterpret_cast<SQLCHAR*>(const_cast<char*>(text.data()));
+}
 
 }  // namespace brunvik::odbc

@@ -13,10 +13,6 @@ namespace {
 // ODBC takes numbers in the place of pointers.
 SQLPOINTER as_attribute(std::uintptr_t number) noexcept { return reinterpret_cast<SQLPOINTER>(number); }
 
-SQLCHAR* as_characters(std::string_view text) noexcept {
-  return reinterpret_cast<SQLCHAR*>(const_cast<char*>(text.data()));
-}
-
 Environment made_environment() {
   Environment environment(SQL_NULL_HANDLE);
   expect(SQLSetEnvAttr(environment.get(), SQL_ATTR_ODBC_VERSION, as_attribute(SQL_OV_ODBC3), 0), environment);

@@ -13,14 +13,6 @@ namespace {
 using dialects::Literal;
 using dialects::LiteralKind;
 
-SQLCHAR* as_characters(std::string_view text) noexcept {
-  return reinterpret_cast<SQLCHAR*>(const_cast<char*>(text.data()));
-}
-
-bool is_mark(char c) noexcept {
-  return c >= dialects::mark_of(LiteralKind::text) && c <= dialects::mark_of(LiteralKind::date);
-}
-
 // As many digits as a 64-bit number surely holds.
 bool is_bound_number(std::string_view digits) noexcept {
   return digits.size() <= 18 && digits.find_first_not_of("0123456789") == std::string_view::npos;
@@ -57,7 +49,7 @@ void bind(const Statement& statement, SQLUSMALLINT number, const Literal& litera
 MariaDbShape::MariaDbShape(MariaDbText text) : text_(std::move(text)) {
   std::string_view rest = text_.shape;
   for (const std::size_t value : text_.order) {
-    const auto mark = std::find_if(rest.begin(), rest.end(), is_mark);
+    const auto mark = std::find_if(rest.begin(), rest.end(), dialects::is_mark);
     const auto length = static_cast<std::size_t>(mark - rest.begin());
     pieces_.push_back({std::string(rest.substr(0, length)), value});
     rest.remove_prefix(length + 1);

@@ -7,6 +7,7 @@
 
 #include "brunvik/ado/errors.h"
 #include "brunvik/ado/money.h"
+#include "drivers/dialects/memory.h"
 #include "drivers/odbc/failure.h"
 
 namespace brunvik::odbc {
@@ -165,6 +166,8 @@ ado::Value ResultColumns::value(const Statement& statement, std::size_t place) c
 }
 
 ado::Recordset ResultColumns::fetch(const Statement& statement) {
+  // However the reading ends, the statement can be carried out again.
+  const dialects::AtEnd close([&statement]() noexcept { SQLFreeStmt(statement.get(), SQL_CLOSE); });
   bind(statement);
   std::vector<ado::Value> cells;
   for (;;) {
@@ -174,7 +177,6 @@ ado::Recordset ResultColumns::fetch(const Statement& statement) {
     if (cells.capacity() - cells.size() < columns_.size()) cells.reserve(2 * cells.size() + columns_.size());
     for (std::size_t place = 0; place < columns_.size(); ++place) cells.push_back(value(statement, place));
   }
-  SQLFreeStmt(statement.get(), SQL_CLOSE);
   return {names_, std::move(cells)};
 }
 
