@@ -1,6 +1,8 @@
 #include "drivers/odbc/mariadb.h"
 
+#include <algorithm>
 #include <array>
+#include <span>
 
 #include "brunvik/ado/errors.h"
 #include "brunvik/ado/names.h"
@@ -33,19 +35,18 @@ constexpr std::array<std::string_view, 17> own_verbs = {
     "begin",  "commit", "rollback", "start",   "savepoint",  "release", "set",     "use", "lock",
     "unlock", "xa",     "prepare",  "execute", "deallocate", "handler", "replace", "load"};
 
-void refuse_own_verbs(std::string_view statement) {
+// They only tell.
+constexpr std::array<std::string_view, 4> telling_verbs = {"show", "describe", "desc", "check"};
+
+bool is_one_of(std::string_view word, std::span<const std::string_view> verbs) {
+  return std::any_of(verbs.begin(), verbs.end(), [word](std::string_view verb) { return ado::same_name(word, verb); });
+}
+
+std::string_view first_word(std::string_view statement) {
   const auto first = statement.find_first_not_of(" \t\r\n");
   if (first == std::string_view::npos) dialects::refuse("The text holds no statement.", statement);
-  std::string_view word = statement.substr(first);
-  word = word.substr(0, word.find_first_of(" \t\r\n(;'"));
-  for (const std::string_view verb : own_verbs) {
-    if (ado::same_name(word, verb)) {
-      dialects::refuse("'" + std::string(word) +
-                           "' is the driver's own: it has made its settings with the server, and "
-                           "a transaction is begun and ended by the connection's verbs.",
-                       statement);
-    }
-  }
+  statement.remove_prefix(first);
+  return statement.substr(0, statement.find_first_of(" \t\r\n(;'"));
 }
 
 }  // namespace
@@ -91,11 +92,17 @@ ado::Recordset MariaDb::execute(std::string_view statement) {
     unkept_.reset();
     cutter_.let_go();
   });
-  if (MariaDbShape* const known = shapes_.known(statement, literals_)) {
-    return known->run(literals_, link_, direct_, statement);
+  try {
+    if (MariaDbShape* const known = shapes_.known(statement, literals_)) {
+      return known->run(literals_, link_, direct_, statement);
+    }
+    if (!cutter_.cut(statement)) return execute_as_it_stands(statement);
+    return shape_of(statement).run(cutter_.literals(), link_, direct_, statement);
+  } catch (const Failure& failure) {
+    // A table or a column that wasn't known may be laid before the statement comes again.
+    if (failure.diagnosis().state.starts_with("42")) forget_tables();
+    throw;
   }
-  if (!cutter_.cut(statement)) return execute_as_it_stands(statement);
-  return shape_of(statement).run(cutter_.literals(), link_, direct_, statement);
 }
 
 MariaDbShape& MariaDb::shape_of(std::string_view statement) {
@@ -111,31 +118,49 @@ ado::Recordset MariaDb::execute_as_it_stands(std::string_view statement) {
   if (statement.find('\0') != std::string_view::npos) {
     dialects::refuse("A zero byte has no place in a statement.", statement);
   }
-  refuse_own_verbs(statement);
-  // What was known of the tables went into the rewriting of every shape.
+  const std::string_view verb = first_word(statement);
+  if (is_one_of(verb, own_verbs)) {
+    dialects::refuse("'" + std::string(verb) +
+                         "' is the driver's own: it has made its settings with the server, and a transaction is begun "
+                         "and ended by the connection's verbs.",
+                     statement);
+  }
+  if (is_one_of(verb, telling_verbs)) return link_.execute(statement);
+  if (in_transaction_) {
+    dialects::refuse("'" + std::string(verb) + "' would commit the transaction that is open.", statement);
+  }
+  forget_tables();
+  return link_.execute(statement);
+}
+
+// What was known of the tables went into the rewriting of every shape.
+void MariaDb::forget_tables() {
   shapes_.clear();
   catalogue_.forget();
-  return link_.execute(statement);
 }
 
 // Two transactions that read the same numbers would each wait for the other to write, and one would be given up. So
 // they come one after the other, and the second waits at its begin.
 void MariaDb::begin() {
   const ado::Recordset lock =
-      link_.execute("select get_lock(concat('brunvik.',database())," + seconds_to_wait_ + ") as got");
+      link_.execute("select get_lock(left(concat('brunvik.',database()),64)," + seconds_to_wait_ + ") as got");
   if (lock.value("got").as_long() != 1) {
     throw ado::RuntimeError(ado::error::timed_out, "Another transaction is open on the database.");
   }
   try {
     link_.execute("set transaction isolation level serializable");
     link_.execute("start transaction");
+    in_transaction_ = true;
   } catch (...) {
     let_others_begin();
     throw;
   }
 }
 
-void MariaDb::let_others_begin() { link_.execute("do release_lock(concat('brunvik.',database()))"); }
+void MariaDb::let_others_begin() {
+  in_transaction_ = false;
+  link_.execute("do release_lock(left(concat('brunvik.',database()),64))");
+}
 
 void MariaDb::commit() {
   link_.execute("commit");

@@ -42,6 +42,7 @@ class MariaDb final : public Server {
 
  private:
   void expect_not_too_long(std::string_view statement) const;
+  void forget_tables();
   void let_others_begin();
   ado::Recordset execute_as_it_stands(std::string_view statement);
   MariaDbShape& shape_of(std::string_view statement);
@@ -54,6 +55,7 @@ class MariaDb final : public Server {
   Statement direct_;
   std::string seconds_to_wait_;
   std::size_t longest_statement_ = 0;
+  bool in_transaction_ = false;
 };
 
 }  // namespace brunvik::odbc
