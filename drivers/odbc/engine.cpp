@@ -24,9 +24,7 @@ Engine::Engine(const std::string& address, const Options& options) : servers_(se
     throw ado::RuntimeError(ado::error::provider_failed, "There is no connection string.");
   }
   std::string reason;
-  // All servers together have the time of one, so that several silent ones are not waited for one after the other.
-  const auto count = static_cast<std::chrono::seconds::rep>(servers_.size());
-  server_ = first_that_answers(reason, std::max(options_.answer_timeout / count, std::chrono::seconds(1)));
+  server_ = first_that_answers(reason, options_.answer_timeout);
   if (!server_) throw ado::RuntimeError(ado::error::provider_failed, reason);
   engine_name_ = server_->name();
 }
@@ -78,6 +76,9 @@ Server& Engine::server(std::string_view statement) {
 }
 
 void Engine::failed(const Diagnosis& diagnosis, std::string_view statement) {
+  if (diagnosis.may_be_cut_off() && server_->is_cut_off()) {
+    failed(cut_off("The server is a node that has lost its cluster; " + diagnosis.text), statement);
+  }
   if (diagnosis.is_lost()) server_.reset();
   if (diagnosis.did_nothing() && transaction_.state() == State::open) let_others_begin();
   if (diagnosis.is_lost() || diagnosis.did_nothing()) transaction_.lost(diagnosis.text);

@@ -22,7 +22,13 @@ struct Diagnosis {
 
   // The engine has chosen the statement, and the transaction around it, for the end of a deadlock: nothing was done.
   bool did_nothing() const noexcept;
+
+  // What a node says when it has waited in vain: for another connection, or for a cluster that it has lost.
+  bool may_be_cut_off() const noexcept;
 };
+
+// A server that is reached, and has lost its cluster.
+Diagnosis cut_off(const std::string& text);
 
 // What went wrong with a handle last.
 Diagnosis diagnosis_of(SQLSMALLINT type, SQLHANDLE handle);

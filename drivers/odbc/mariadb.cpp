@@ -10,7 +10,6 @@
 #include "drivers/dialects/pattern.h"
 #include "drivers/dialects/refusal.h"
 #include "drivers/odbc/failure.h"
-#include "drivers/odbc/mariadb_settings.h"
 
 namespace brunvik::odbc {
 

@@ -8,6 +8,7 @@
 #include "drivers/dialects/columns.h"
 #include "drivers/dialects/cutter.h"
 #include "drivers/dialects/shape_cache.h"
+#include "drivers/odbc/mariadb_settings.h"
 #include "drivers/odbc/mariadb_shape.h"
 #include "drivers/odbc/server.h"
 
@@ -36,6 +37,7 @@ class MariaDb final : public Server {
   void begin() override;
   void commit() override;
   void roll_back() override;
+  bool is_cut_off() override { return !is_ready(link_); }
   std::size_t cached_statements() const noexcept override { return shapes_.size(); }
   ado::Recordset tables() override;
   std::string_view name() const noexcept override { return mariadb_name; }

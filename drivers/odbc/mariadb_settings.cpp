@@ -30,10 +30,15 @@ std::string status(const Link& link, const std::string& name) {
 
 }  // namespace
 
+bool is_ready(const Link& link) try {
+  return !is_node(link) || status(link, "wsrep_ready") == "ON";
+} catch (const Failure& failure) {
+  if (failure.diagnosis().is_lost()) return false;
+  throw;
+}
+
 void expect_usable(const Link& link) {
-  if (is_node(link) && status(link, "wsrep_ready") != "ON") {
-    throw Failure({"08S01", 1047, "The server is a node that isn't ready for work in its cluster."});
-  }
+  if (!is_ready(link)) throw Failure(cut_off("The server is a node that isn't ready for work in its cluster."));
   const ado::Recordset found = link.execute(
       "select @@lower_case_table_names as names, @@character_set_client as characters, database() as base, "
       "(select default_collation_name from information_schema.schemata where schema_name=database()) as collation");

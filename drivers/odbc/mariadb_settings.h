@@ -8,6 +8,9 @@
 
 namespace brunvik::odbc {
 
+// Whether a server takes work: a node of a cluster doesn't while it comes back, and when it has lost the others.
+bool is_ready(const Link& link);
+
 // Throws a RuntimeError that names the setting where something is in the way that a connection can't mend: the case of
 // table names, the database's character set and collation. Throws a Failure of a lost connection where the server is a
 // node that is out of its cluster.

@@ -27,6 +27,9 @@ class Server {
   virtual void commit() = 0;
   virtual void roll_back() = 0;
 
+  // Whether it is a node that has lost its cluster, and so takes no work.
+  virtual bool is_cut_off() { return false; }
+
   virtual std::string_view name() const noexcept = 0;
 
   virtual std::size_t cached_statements() const noexcept { return 0; }
