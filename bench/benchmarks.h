@@ -26,4 +26,8 @@ void register_growth();
 // The verbs of the other families, each with a thousand and with a million bills in its tables.
 void register_family_growth();
 
+// One user and eight, each a process of its own, on one SQLite file; on a server and on a cluster, where
+// BRUNVIK_BENCH_MARIADB or BRUNVIK_BENCH_CLUSTER has its connection string, or those of its nodes, without a database.
+void register_clients();
+
 }  // namespace brunvik::bench

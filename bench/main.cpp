@@ -19,6 +19,7 @@ int main(int count, char** arguments) try {
   bench::register_counts();
   bench::register_growth();
   bench::register_family_growth();
+  bench::register_clients();
   benchmark::RunSpecifiedBenchmarks();
   return 0;
 } catch (const std::exception& failure) {
