@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <chrono>
 #include <thread>
+#include <utility>
 
 #include "brunvik/ado/errors.h"
 #include "brunvik/ado/names.h"
@@ -19,7 +20,8 @@ using State = dialects::HostTransaction::State;
 
 }  // namespace
 
-Engine::Engine(const std::string& address, const Options& options) : servers_(servers_of(address)), options_(options) {
+Engine::Engine(const std::string& address, Options options)
+    : servers_(servers_of(address)), options_(std::move(options)) {
   if (servers_.empty()) {
     throw ado::RuntimeError(ado::error::provider_failed, "There is no connection string.");
   }

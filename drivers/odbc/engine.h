@@ -17,7 +17,7 @@ namespace brunvik::odbc {
 
 class Engine {
  public:
-  Engine(const std::string& address, const Options& options);
+  Engine(const std::string& address, Options options);
 
   ado::Recordset execute(std::string_view statement);
   void begin();

@@ -11,7 +11,9 @@ namespace brunvik::odbc {
 namespace {
 
 // ODBC takes numbers in the place of pointers.
-SQLPOINTER as_attribute(std::uintptr_t number) noexcept { return reinterpret_cast<SQLPOINTER>(number); }
+SQLPOINTER as_attribute(std::uintptr_t number) noexcept {
+  return reinterpret_cast<SQLPOINTER>(number);  // NOLINT(performance-no-int-to-ptr)
+}
 
 Environment made_environment() {
   Environment environment(SQL_NULL_HANDLE);

@@ -55,7 +55,7 @@ Number number_in(const std::vector<char>& place) {
 // A text without a bound, in pieces.
 std::string long_text(const Statement& statement, SQLUSMALLINT number, bool& is_null) {
   std::string text;
-  std::vector<char> piece(16 * 1'024);
+  std::vector<char> piece(std::size_t{16} * 1'024);
   for (;;) {
     SQLLEN length = 0;
     const SQLRETURN result =
@@ -120,10 +120,10 @@ ResultColumns::ResultColumns(const Statement& statement, const dialects::Selecti
   expect(SQLNumResultCols(statement.get(), &count), statement);
   std::vector<std::string> names;
   for (SQLSMALLINT place = 0; place < count; ++place) {
-    std::string name;
+    std::string& name = names.emplace_back();
     columns_.push_back(described(statement, static_cast<SQLUSMALLINT>(place + 1), name));
     const auto* const written = selection.column(static_cast<std::size_t>(place), static_cast<std::size_t>(count));
-    names.push_back(written && !written->name.empty() ? written->name : std::move(name));
+    if (written && !written->name.empty()) name = written->name;
   }
   if (count > 0) names_ = std::make_shared<const ado::ColumnNames>(std::move(names));
 }
