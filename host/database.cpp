@@ -1,5 +1,7 @@
 #include "host/database.h"
 
+#include <filesystem>
+
 #include "brunvik/ado/errors.h"
 #include "host/file_database.h"
 #include "host/server_database.h"
@@ -18,9 +20,20 @@ bool is_on_a_server(const std::string& address) {
 
 std::string on_server(const std::string& address) { return address.substr(server_scheme.size()); }
 
+// Other programs write a password into an address in two ways: as a connection string does, and behind the user.
+std::string shown_unknown(const std::string& address) {
+  const std::string shown = shown_address(address);
+  const auto user = shown.find("://");
+  const auto host = shown.rfind('@');
+  if (user == std::string::npos || host == std::string::npos) return shown;
+  const auto password = shown.find(':', user + 3);
+  if (password > host) return shown;
+  return shown.substr(0, password + 1) + "***" + shown.substr(host);
+}
+
 std::string path_in(const std::string& address) {
   if (!address.starts_with(file_scheme) || address.size() == file_scheme.size()) {
-    throw UnknownAddress("'" + shown_address(address) +
+    throw UnknownAddress("'" + shown_unknown(address) +
                          "' is no database: sqlite:PATH, sqlite::memory: and odbc:CONNECTION STRING are");
   }
   return address.substr(file_scheme.size());
@@ -38,6 +51,12 @@ std::string address_of_file(const std::string& path) { return std::string(file_s
 
 std::string file_at(const std::string& address) {
   return address == in_memory || is_on_a_server(address) ? std::string() : path_in(address);
+}
+
+std::string address_for_another_run(const std::string& address) {
+  if (address == in_memory) return {};
+  if (is_on_a_server(address)) return std::string(server_scheme) + address_without_password(on_server(address));
+  return address_of_file(std::filesystem::absolute(path_in(address)).string());
 }
 
 Database open_database(const std::string& address, bool create) {

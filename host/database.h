@@ -30,6 +30,10 @@ struct Database {
 std::string file_at(const std::string& address);
 std::string address_of_file(const std::string& path);
 
+// An address as another run may be given it: a file's path in full, a connection string without its password. Empty for
+// the memory, which no other run reaches.
+std::string address_for_another_run(const std::string& address);
+
 // Opens the database. `create` makes the file where there is none, and lays the tables in an empty database; the
 // memory is always new and gets them in any case. A password that a connection string lacks is taken from the
 // environment, BRUNVIK_PASSWORD. Throws an UnknownAddress, or a RuntimeError that says what is in the way, without any

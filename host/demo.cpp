@@ -90,11 +90,16 @@ std::string shell_word(const std::string& text) {
   return quoted + '\'';
 }
 
-void say_what_is_next(const std::string& path, const std::string& command, std::ostream& out) {
-  const std::string file = std::filesystem::absolute(path).string();
-  out << "\n数据库文件: " << file
-      << "\n下一步: echo '{\"do\":\"sql\",\"text\":\"select GId,CurrentQty from Inventory\"}' | " << shell_word(command)
-      << " run --db " << shell_word(address_of_file(file)) << '\n';
+void say_what_is_next(const std::string& played, const std::string& command, std::ostream& out) {
+  const std::string address = address_for_another_run(played);
+  if (address.empty()) return;
+  if (const std::string file = file_at(address); !file.empty()) {
+    out << "\n数据库文件: " << file;
+  } else {
+    out << "\n数据库: " << address << (address == played ? "" : "（密码取自环境变量 BRUNVIK_PASSWORD）");
+  }
+  out << "\n下一步: echo '{\"do\":\"sql\",\"text\":\"select GId,CurrentQty from Inventory\"}' | " << shell_word(command)
+      << " run --db " << shell_word(address) << '\n';
 }
 
 }  // namespace
@@ -115,7 +120,7 @@ void demo(const Story& story, const DemoOptions& options, std::ostream& out) {
   const std::string address = options.address.empty() ? address_of_file(fresh_file()) : options.address;
   Interpreter interpreter(open_fresh_database(address).connection, options.settings);
   play(story, interpreter, out);
-  if (const std::string file = file_at(address); !file.empty()) say_what_is_next(file, options.command, out);
+  say_what_is_next(address, options.command, out);
 }
 
 std::string list_of(const std::vector<Story>& stories) {

@@ -24,32 +24,42 @@ schema::Engine engine_of(const odbc::Connection& database) {
   return database.engine_name() == "MariaDB" ? schema::Engine::mariadb : schema::Engine::sqlserver;
 }
 
-// A server ends a transaction at each statement that lays a table, so what a failure leaves is taken away here: a
-// database whose laying was cut off must not look as if it were in use.
+// A database whose laying was cut off must not look as if it were in use. A server keeps each table by itself, so the
+// tables that were laid before a failure are taken away; those of another host, who lays them at the same time, are
+// not.
 void lay_tables(odbc::Connection& database) {
+  const std::vector<std::string> tables = names_of_tables();
+  auto next = tables.begin();
   try {
-    for (const std::string& statement : schema::statements(engine_of(database))) database.Execute(statement);
+    for (const std::string& statement : schema::statements(engine_of(database))) {
+      database.Execute(statement);
+      if (statement.starts_with("CREATE TABLE")) ++next;
+    }
   } catch (const ado::RuntimeError&) {
-    for (const std::string& table : names_of_tables()) {
+    while (next != tables.begin()) {
       try {
-        database.Execute("drop table " + table);
+        database.Execute("drop table " + *--next);
       } catch (const ado::RuntimeError&) {
-        // It wasn't laid yet; or the server is gone, and `schema --apply` lays the rest.
+        // The server is gone, or the user may not: `schema --apply` lays the rest.
       }
     }
     throw;
   }
 }
 
+std::string joined(const std::string& address, std::string (*changed)(std::string_view connection_string)) {
+  std::string strings;
+  for (const std::string& server : odbc::servers_of(address)) {
+    strings.append(strings.empty() ? "" : "||").append(changed(server));
+  }
+  return strings;
+}
+
 }  // namespace
 
-std::string shown_address(const std::string& address) {
-  std::string shown;
-  for (const std::string& server : odbc::servers_of(address)) {
-    shown.append(shown.empty() ? "" : "||").append(odbc::without_password(server));
-  }
-  return shown;
-}
+std::string shown_address(const std::string& address) { return joined(address, odbc::without_password); }
+
+std::string address_without_password(const std::string& address) { return joined(address, odbc::stripped_of_password); }
 
 Database open_server(const std::string& address, bool create) {
   auto database = opened(address);

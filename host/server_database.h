@@ -11,7 +11,9 @@ namespace brunvik::host {
 Database open_server(const std::string& address, bool create);
 Database open_fresh_server(const std::string& address);
 
-// An address as it may be shown: without a password.
+// An address as it may be shown, with what stands for a password made out; and as another run may be given it, without
+// the password, which it takes from the environment.
 std::string shown_address(const std::string& address);
+std::string address_without_password(const std::string& address);
 
 }  // namespace brunvik::host

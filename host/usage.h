@@ -15,7 +15,8 @@ namespace brunvik::host {
 inline constexpr const char* usage_footer =
     "Without --db, run works in memory and keeps nothing, and demo lays a fresh file.\n"
     "Without --dialect the statements are in that of sqlserver; without --now it is what\n"
-    "the system's clock says. brunvik run --help, and its like, tell the rest.";
+    "the system's clock says. A password that a connection string lacks is taken from the\n"
+    "environment variable BRUNVIK_PASSWORD. brunvik run --help, and its like, tell the rest.";
 
 // The name that a word was most likely meant to be: the one that takes the fewest typing mistakes, without regard to
 // case. Empty where none is near.

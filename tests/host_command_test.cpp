@@ -208,51 +208,6 @@ TEST(HostCommand, The_printed_schema_lays_the_tables_that_create_lays) {
   EXPECT_EQ(laid, brunvik({"run", "--db", created, "--create"}, entries).out);
 }
 
-// A command that waits for the next line, with nowhere to tell of errors.
-class Conversation {
- public:
-  Conversation() : Conversation(new_pipe(), new_pipe(), open("/dev/null", O_WRONLY | O_CLOEXEC)) {}
-
-  // The line is written whole before the answer is read, so only one of the two may be longer than a pipe holds.
-  std::string answer_to(const std::string& line) {
-    for (std::size_t done = 0; done < line.size();) {
-      const ssize_t written = write(to_, line.data() + done, line.size() - done);
-      if (written < 0) return {};
-      done += static_cast<std::size_t>(written);
-    }
-    std::string answer;
-    for (char c = 0; c != '\n' && read(from_, &c, 1) == 1;) answer += c;
-    return answer;
-  }
-
-  // The exit status.
-  int end() {
-    close(to_);
-    close(from_);
-    return process_.wait();
-  }
-
-  double resident_megabytes() const { return process_.resident_megabytes(); }
-
- private:
-  using Pipe = std::array<int, 2>;
-
-  static Pipe new_pipe() {
-    Pipe ends{};
-    EXPECT_EQ(pipe2(ends.data(), O_CLOEXEC), 0);
-    return ends;
-  }
-
-  Conversation(Pipe to, Pipe from, int nowhere)
-      : to_(to[1]), from_(from[0]), process_({"run"}, to[0], from[1], nowhere) {
-    for (const int descriptor : {to[0], from[1], nowhere}) close(descriptor);
-  }
-
-  int to_;
-  int from_;
-  Process process_;
-};
-
 TEST(HostCommand, An_answer_comes_before_the_next_line_is_said) {
   Conversation command;
   EXPECT_EQ(command.answer_to(one_goods), "{\"line\":1,\"columns\":[],\"rows\":[]}\n");

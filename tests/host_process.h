@@ -56,6 +56,52 @@ class Process {
   pid_t id_;
 };
 
+// A command that waits for the next line, with nowhere to tell of errors.
+class Conversation {
+ public:
+  explicit Conversation(const std::vector<std::string>& arguments = {"run"})
+      : Conversation(arguments, new_pipe(), new_pipe(), open("/dev/null", O_WRONLY | O_CLOEXEC)) {}
+
+  // The line is written whole before the answer is read, so only one of the two may be longer than a pipe holds.
+  std::string answer_to(const std::string& line) {
+    for (std::size_t done = 0; done < line.size();) {
+      const ssize_t written = write(to_, line.data() + done, line.size() - done);
+      if (written < 0) return {};
+      done += static_cast<std::size_t>(written);
+    }
+    std::string answer;
+    for (char c = 0; c != '\n' && read(from_, &c, 1) == 1;) answer += c;
+    return answer;
+  }
+
+  // The exit status.
+  int end() {
+    close(to_);
+    close(from_);
+    return process_.wait();
+  }
+
+  double resident_megabytes() const { return process_.resident_megabytes(); }
+
+ private:
+  using Pipe = std::array<int, 2>;
+
+  static Pipe new_pipe() {
+    Pipe ends{};
+    EXPECT_EQ(pipe2(ends.data(), O_CLOEXEC), 0);
+    return ends;
+  }
+
+  Conversation(const std::vector<std::string>& arguments, Pipe to, Pipe from, int nowhere)
+      : to_(to[1]), from_(from[0]), process_(arguments, to[0], from[1], nowhere) {
+    for (const int descriptor : {to[0], from[1], nowhere}) close(descriptor);
+  }
+
+  int to_;
+  int from_;
+  Process process_;
+};
+
 struct Ended {
   int status;
   std::string out;

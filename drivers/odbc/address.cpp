@@ -123,6 +123,15 @@ std::string without_password_of(std::string_view connection_string, std::string 
   return text;
 }
 
+std::string stripped_of_password(std::string_view connection_string) {
+  if (!find(connection_string, {"PWD", "PASSWORD"})) return std::string(connection_string);
+  std::string rest;
+  for (const Attribute& attribute : attributes_of(connection_string)) {
+    if (!is_password(attribute) && !attribute.keyword.empty()) add(rest, attribute.keyword, attribute.value);
+  }
+  return rest;
+}
+
 std::string with_default(std::string_view connection_string, std::string_view keyword, std::string_view value) {
   std::string complete(connection_string);
   if (!find(connection_string, {keyword})) add(complete, keyword, value);

@@ -17,6 +17,9 @@ std::string with_password(std::string_view connection_string, std::string_view p
 // The string with its password made out, to be shown.
 std::string without_password(std::string_view connection_string);
 
+// The string without its password, for a host that has it from elsewhere; as it is where it has none.
+std::string stripped_of_password(std::string_view connection_string);
+
 // A text that may hold the password of a string, without it.
 std::string without_password_of(std::string_view connection_string, std::string text);
 

@@ -26,7 +26,9 @@ Engine::Engine(const std::string& address, Options options)
     throw ado::RuntimeError(ado::error::provider_failed, "There is no connection string.");
   }
   std::string reason;
-  server_ = first_that_answers(reason, options_.answer_timeout);
+  // All servers together have the time of one, so that several silent ones are not waited for one after the other.
+  const auto count = static_cast<std::chrono::seconds::rep>(servers_.size());
+  server_ = first_that_answers(reason, std::max(options_.answer_timeout / count, std::chrono::seconds(1)));
   if (!server_) throw ado::RuntimeError(ado::error::provider_failed, reason);
   engine_name_ = server_->name();
 }
