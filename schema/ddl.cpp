@@ -113,13 +113,13 @@ std::span<const NamedEngine> engines() {
   return all;
 }
 
-std::vector<std::string> statements(Engine engine) { return lacking_statements(engine, {}); }
+namespace {
 
-std::vector<std::string> lacking_statements(Engine engine, std::span<const LaidTable> laid) {
+std::vector<std::string> lacking(Engine engine, std::span<const Table> tables, std::span<const LaidTable> laid) {
   const EngineWords& words = words_of(engine);
   const LaidTable nothing;
   std::vector<std::string> list;
-  for (const Table& table : tables()) {
+  for (const Table& table : tables) {
     const auto found =
         std::ranges::find_if(laid, [&](const LaidTable& other) { return same_name(table.name, other.name); });
     const bool is_there = found != laid.end();
@@ -134,6 +134,18 @@ std::vector<std::string> lacking_statements(Engine engine, std::span<const LaidT
     }
   }
   return list;
+}
+
+}  // namespace
+
+std::vector<std::string> statements(Engine engine) { return statements(engine, tables()); }
+
+std::vector<std::string> statements(Engine engine, std::span<const Table> tables) {
+  return lacking(engine, tables, {});
+}
+
+std::vector<std::string> lacking_statements(Engine engine, std::span<const LaidTable> laid) {
+  return lacking(engine, tables(), laid);
 }
 
 }  // namespace brunvik::schema

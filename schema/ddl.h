@@ -8,6 +8,8 @@
 
 namespace brunvik::schema {
 
+struct Table;
+
 enum class Engine { sqlite, mariadb, sqlserver, access };
 
 struct NamedEngine {
@@ -20,6 +22,9 @@ std::span<const NamedEngine> engines();
 
 // One statement an element, without a closing semicolon, in an order in which an empty database can run them.
 std::vector<std::string> statements(Engine engine);
+
+// The same for these tables.
+std::vector<std::string> statements(Engine engine, std::span<const Table> tables);
 
 // A table as a database has it. Names are compared without regard to case. Of MariaDB the columns that `select *`
 // doesn't show are named too, and a primary key by the name of its index, PRIMARY.

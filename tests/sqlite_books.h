@@ -11,31 +11,12 @@
 #include "brunvik/ado/errors.h"
 #include "drivers/sqlite/connection.h"
 #include "tests/support/folder.h"
+#include "tests/support/small_books.h"
 
 namespace brunvik::sqlite {
 
-inline constexpr std::string_view small_books[] = {
-    "CREATE TABLE StockBill (Id TEXT COLLATE NOCASE NOT NULL PRIMARY KEY, Type INTEGER, Status INTEGER,"
-    " Auditor TEXT COLLATE NOCASE, AuditTime TEXT COLLATE NOCASE,"
-    " PaidAmount MONEY DEFAULT 0 CHECK (typeof(PaidAmount) NOT IN ('text', 'blob')),"
-    " CloseAmount MONEY DEFAULT 0 CHECK (typeof(CloseAmount) NOT IN ('text', 'blob')),"
-    " AdvanceAmount MONEY DEFAULT 0 CHECK (typeof(AdvanceAmount) NOT IN ('text', 'blob')),"
-    " ClosedTag INTEGER DEFAULT 0 CHECK (ClosedTag IS NULL OR typeof(ClosedTag) = 'integer'),"
-    " CreateFlag BIT, TaxRate REAL CHECK (typeof(TaxRate) NOT IN ('text', 'blob')), Remarks TEXT COLLATE NOCASE)",
-    "CREATE INDEX StockBill_Type ON StockBill (Type)",
-    "CREATE TABLE StockBillItems (BillId TEXT COLLATE NOCASE, RowNum SMALLINT, GId TEXT COLLATE NOCASE,"
-    " Qty REAL CHECK (typeof(Qty) NOT IN ('text', 'blob')),"
-    " Price MONEY CHECK (typeof(Price) NOT IN ('text', 'blob')),"
-    " Amount MONEY CHECK (typeof(Amount) NOT IN ('text', 'blob')), Receiver TEXT COLLATE NOCASE,"
-    " Remarks TEXT COLLATE NOCASE)",
-    "CREATE INDEX StockBillItems_BillId ON StockBillItems (BillId)",
-    "CREATE TABLE Warehouse (Id TEXT COLLATE NOCASE NOT NULL PRIMARY KEY, WName TEXT COLLATE NOCASE)",
-    "CREATE TABLE ZHXX (ID TEXT COLLATE NOCASE NOT NULL PRIMARY KEY, ZH TEXT COLLATE NOCASE, KHH TEXT COLLATE NOCASE,"
-    " YE MONEY DEFAULT 0 CHECK (typeof(YE) NOT IN ('text', 'blob')))",
-};
-
 inline void lay_small_books(Connection& connection) {
-  for (const std::string_view statement : small_books) connection.Execute(statement);
+  test::lay(connection, schema::Engine::sqlite, test::small_tables());
 }
 
 class SqliteBooks : public ::testing::Test {

@@ -58,18 +58,6 @@ class SqliteTransactions : public SqliteBooks {
   }
 };
 
-TEST_F(SqliteTransactions, What_was_done_is_kept_at_the_commit_and_seen_by_others_from_then_on) {
-  const auto other = open(path());
-  books->BeginTrans();
-  run(one_warehouse);
-  run("insert into ZHXX(ID,YE) values('A1',0.3)");
-  EXPECT_EQ(warehouses(), 1);
-  EXPECT_EQ(other->Execute("select count(*) as n from Warehouse").value("n"), ado::Value(Long{0}));
-  books->CommitTrans();
-  EXPECT_EQ(other->Execute("select count(*) as n from Warehouse").value("n"), ado::Value(Long{1}));
-  EXPECT_EQ(other->Execute("select YE from ZHXX").value("YE"), ado::Value(ado::Money::parse("0.3")));
-}
-
 TEST_F(SqliteTransactions, What_was_done_is_taken_back_by_the_rollback_tables_included) {
   books->BeginTrans();
   run(one_warehouse);
@@ -78,82 +66,6 @@ TEST_F(SqliteTransactions, What_was_done_is_taken_back_by_the_rollback_tables_in
   books->RollbackTrans();
   EXPECT_EQ(warehouses(), 0);
   EXPECT_EQ(error_of(*books, "insert into Lent(Id) values('L1')"), error::no_such_table);
-}
-
-TEST_F(SqliteTransactions, A_begin_within_a_transaction_is_an_error_and_leaves_it_open) {
-  books->BeginTrans();
-  run(one_warehouse);
-  const auto failure = failure_of([&] { books->BeginTrans(); });
-  EXPECT_EQ(failure.number(), -2147168237);
-  EXPECT_EQ(failure.description(), "只能打开一个事务，而已有一个事务打开。");
-  EXPECT_EQ(roll_back(), 0);
-  EXPECT_EQ(warehouses(), 0);
-}
-
-TEST_F(SqliteTransactions, A_commit_or_a_rollback_without_a_begin_is_an_error) {
-  EXPECT_EQ(commit(), -2147168242);
-  EXPECT_EQ(roll_back(), -2147168242);
-  books->BeginTrans();
-  books->CommitTrans();
-  EXPECT_EQ(commit(), -2147168242);
-  EXPECT_EQ(roll_back(), -2147168242);
-  EXPECT_EQ(failure_of([&] { books->CommitTrans(); }).description(), "没有打开的事务。");
-}
-
-TEST_F(SqliteTransactions, A_closed_connection_says_so) {
-  books->Close();
-  EXPECT_EQ(begin(), error::object_closed);
-  EXPECT_EQ(commit(), error::object_closed);
-  EXPECT_EQ(roll_back(), error::object_closed);
-}
-
-TEST_F(SqliteTransactions, A_statement_that_fails_has_changed_nothing_and_the_transaction_goes_on) {
-  run("insert into ZHXX(ID,KHH) values('A1','W1')");
-  run("insert into ZHXX(ID,KHH) values('A2','W2')");
-  books->BeginTrans();
-  run("insert into Warehouse(Id) values('W2')");
-  EXPECT_EQ(error_of(*books, "insert into Warehouse(Id) select KHH from ZHXX order by ID"), error::constraint_violated);
-  EXPECT_EQ(text("select Id from Warehouse"), "W2");
-  EXPECT_EQ(error_of(*books, "insert into Nowhere(Id) values('W3')"), error::no_such_table);
-  EXPECT_EQ(error_of(*books, "update ZHXX set YE=549755813888"), error::data_overflow);
-  run("insert into Warehouse(Id) values('W3')");
-  EXPECT_EQ(commit(), 0);
-  EXPECT_EQ(warehouses(), 2);
-}
-
-TEST_F(SqliteTransactions, Of_two_writers_the_second_waits_at_the_begin) {
-  const auto impatient = open(path(), {.busy_timeout = 5ms});
-  books->BeginTrans();
-  EXPECT_EQ(failure_of([&] { impatient->BeginTrans(); }).number(), error::timed_out);
-  EXPECT_EQ(failure_of([&] { impatient->RollbackTrans(); }).number(), error::no_transaction);
-
-  std::thread patient([file = path()] {
-    const auto other = open(file);
-    other->BeginTrans();
-    // Read after the wait, so what the first writer left is in it.
-    const Long before = other->Execute("select count(*) as n from Warehouse").value("n").as_long();
-    other->Execute("insert into Warehouse(Id) values('after " + std::to_string(before) + "')");
-    other->CommitTrans();
-  });
-  std::this_thread::sleep_for(30ms);
-  run(one_warehouse);
-  books->CommitTrans();
-  patient.join();
-  EXPECT_EQ(count("select count(*) from Warehouse where Id='after 1'"), 1);
-}
-
-TEST_F(SqliteTransactions, A_connection_that_is_closed_or_goes_away_takes_back_what_was_open) {
-  auto other = open(path());
-  other->BeginTrans();
-  other->Execute(one_warehouse);
-  other->Close();
-  EXPECT_EQ(warehouses(), 0);
-  other = open(path());
-  other->BeginTrans();
-  other->Execute(one_warehouse);
-  other.reset();
-  EXPECT_EQ(warehouses(), 0);
-  EXPECT_EQ(begin(), 0);
 }
 
 TEST_F(SqliteTransactions, A_commit_that_finds_readers_in_its_way_says_that_the_transaction_is_still_open) {

@@ -18,6 +18,7 @@ bool is_one_of(Long number, const std::array<Long, N>& numbers) noexcept {
 
 // The numbers are MariaDB's, as are those below; the states are everybody's.
 constexpr Long deadlock = 1213;
+constexpr Long not_in_the_encoding = 1300;
 constexpr Long lock_wait = 1205;
 constexpr std::array<Long, 3> waited_too_long{deadlock, lock_wait, 1969};
 constexpr Long cut_off_from_cluster = 1047;
@@ -31,8 +32,9 @@ Long number_of(const Diagnosis& diagnosis) noexcept {
   // More than one row where a single value stands: a failure of the run, not of the text.
   if (state.starts_with("42") || state == "21S01") return error::statement_refused;
   if (state == "22003" || state == "22001") return error::data_overflow;
-  // A text where a number has to stand breaks the column's rule.
+  // A text where a number has to stand breaks the column's rule, and so does one that is none in its encoding.
   if (state.starts_with("23") || state == "22007" || state == "22018") return error::constraint_violated;
+  if (diagnosis.native == not_in_the_encoding) return error::constraint_violated;
   if (state == "HYT00" || state == "40001") return error::timed_out;
   return error::provider_failed;
 }

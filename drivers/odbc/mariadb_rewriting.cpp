@@ -24,9 +24,11 @@ constexpr std::string_view no_number = "(SELECT 1 UNION SELECT 2)";
 
 // The shortest decimal that names a single has six to nine digits. @brunvik_value is the single, @brunvik_decimal what
 // is tried; rounding to places gives the double nearest to the decimal. The engine works this out from left to right.
+// It makes the largest single of whatever lies beyond, so a number as large as that counts as too large.
 constexpr std::string_view single_begin = "(CASE WHEN (@brunvik_value:=CAST(";
 constexpr std::string_view single_end =
     " AS FLOAT))=0 THEN 0e0 WHEN @brunvik_value IS NULL THEN NULL"
+    " WHEN ABS(@brunvik_value)>=3.4028234663852886e38 THEN EXP(1000+ABS(@brunvik_value))"
     " WHEN CAST((@brunvik_decimal:=ROUND(@brunvik_value,@brunvik_places:=5-FLOOR(LOG10(ABS(@brunvik_value)))))"
     " AS FLOAT)=@brunvik_value THEN @brunvik_decimal"
     " WHEN CAST((@brunvik_decimal:=ROUND(@brunvik_value,@brunvik_places+1)) AS FLOAT)=@brunvik_value"

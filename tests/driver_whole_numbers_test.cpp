@@ -1,14 +1,18 @@
 // A column of whole numbers takes what its declared width holds, and refuses the rest as an overflow.
-#include "tests/sqlite_books.h"
+#include "tests/support/driver_books.h"
 
-namespace brunvik::sqlite {
+namespace brunvik::test {
 namespace {
 
-class SqliteWholeNumbers : public SqliteBooks {
+class DriverWholeNumbers : public DriverBooks {
  protected:
-  SqliteWholeNumbers() {
-    run("create table Widths (Id TEXT COLLATE NOCASE NOT NULL PRIMARY KEY, B TINYINT, I SMALLINT, L INTEGER, T BIT,"
-        " CHECK (L IS NULL OR typeof(L) = 'integer'))");
+  DriverWholeNumbers() {
+    static constexpr schema::Column widths[] = {{"Id", schema::Type::Key},
+                                                {"B", schema::Type::Byte},
+                                                {"I", schema::Type::Integer},
+                                                {"L", schema::Type::Long},
+                                                {"T", schema::Type::Boolean}};
+    lay({"Widths", widths, "Id"});
     run("insert into Widths(Id,B,I,L,T) values('a',1,1,1,1)");
   }
 
@@ -30,7 +34,7 @@ class SqliteWholeNumbers : public SqliteBooks {
   }
 };
 
-TEST_F(SqliteWholeNumbers, The_ends_of_each_width_are_taken) {
+TEST_P(DriverWholeNumbers, The_ends_of_each_width_are_taken) {
   expect_taken("B", "0", "0");
   expect_taken("B", "255", "255");
   expect_taken("B", "-0", "0");
@@ -44,7 +48,7 @@ TEST_F(SqliteWholeNumbers, The_ends_of_each_width_are_taken) {
   expect_taken("L", "1-null", "");
 }
 
-TEST_F(SqliteWholeNumbers, What_lies_beyond_them_is_an_overflow) {
+TEST_P(DriverWholeNumbers, What_lies_beyond_them_is_an_overflow) {
   for (const char* number : {"256", "-1", "'256'", "'-1'", "'-1 '", "1e3", "128+128", "I-2", "-B"}) {
     expect_overflow("B", number);
   }
@@ -57,22 +61,24 @@ TEST_F(SqliteWholeNumbers, What_lies_beyond_them_is_an_overflow) {
   }
 }
 
-TEST_F(SqliteWholeNumbers, A_wider_column_is_looked_at_before_a_narrower_one_takes_its_value) {
+TEST_P(DriverWholeNumbers, A_wider_column_is_looked_at_before_a_narrower_one_takes_its_value) {
   run("update Widths set L=70000");
   EXPECT_EQ(error_of(*books, "update Widths set I=L"), ado::error::data_overflow);
   run("update Widths set L=I");
   EXPECT_EQ(count("select L from Widths"), 1);
 }
 
-TEST_F(SqliteWholeNumbers, What_is_no_number_is_refused_by_the_column) {
+TEST_P(DriverWholeNumbers, What_is_no_number_is_refused_by_the_column) {
   EXPECT_EQ(error_of(*books, "update Widths set L='abc'"), ado::error::constraint_violated);
   EXPECT_EQ(error_of(*books, "update Widths set L='abc'||''"), ado::error::constraint_violated);
 }
 
-TEST_F(SqliteWholeNumbers, A_condition_may_ask_for_any_number) {
+TEST_P(DriverWholeNumbers, A_condition_may_ask_for_any_number) {
   EXPECT_EQ(count("select count(*) from Widths where L=3000000000"), 0);
   EXPECT_EQ(count("select count(*) from Widths where B>-1"), 1);
 }
 
+INSTANTIATE_TEST_SUITE_P(On, DriverWholeNumbers, ::testing::ValuesIn(driver_engines()), by_engine);
+
 }  // namespace
-}  // namespace brunvik::sqlite
+}  // namespace brunvik::test
