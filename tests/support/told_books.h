@@ -31,6 +31,8 @@ class ToldBooks {
   std::size_t of_unknown_fate() const { return unknown_.size(); }
 
  private:
+  bool run_of_unknown_fate(std::size_t choice);
+
   ado::ConnectionReference books_;
   std::size_t acknowledged_ = 0;
   std::vector<std::string> unknown_;
