@@ -166,9 +166,9 @@ TEST_P(DriverValues, Random_texts_are_carried_out_or_refused_and_never_anything_
   EXPECT_EQ(run("select * from ZHXX").State(), 1);
 }
 
-TEST_P(DriverValues, Twenty_megabytes_of_text_come_back) {
+TEST_P(DriverValues, Twelve_megabytes_of_text_come_back) {
   std::string remarks;
-  while (remarks.size() < 20'000'000) remarks += "主仓 O'Neil 𠀀\\ ";
+  while (remarks.size() < 12'000'000) remarks += "主仓 O'Neil 𠀀\\ ";
   run("insert into Warehouse(Id,WName) values('W1'," + literal_of(remarks) + ")");
   EXPECT_TRUE(text("select WName from Warehouse where Id='W1'") == remarks);
   EXPECT_EQ(count("select count(*) from Warehouse where WName=" + literal_of(remarks)), 1);

@@ -81,6 +81,15 @@ TEST_P(MariaDbOwnMeanings, A_key_longer_than_its_column_is_refused) {
   EXPECT_TRUE(holds(failure, "Data too long")) << failure.description();
 }
 
+TEST_P(MariaDbOwnMeanings, A_statement_that_is_longer_than_the_server_takes_is_refused_and_the_next_goes_on) {
+  const auto longest = std::stoul(run("show variables like 'max_allowed_packet'").value("Value").joined_text());
+  const auto failure =
+      failure_of([&] { run("insert into Warehouse(Id,WName) values('W1','" + std::string(longest, '\\') + "')"); });
+  EXPECT_NE(failure.number(), 0);
+  EXPECT_TRUE(holds(failure, "max_allowed_packet")) << failure.description();
+  EXPECT_EQ(count("select count(*) from Warehouse"), 0);
+}
+
 TEST_P(MariaDbOwnMeanings, What_the_engine_cannot_do_is_refused_in_its_words) {
   for (const char* statement : {"select Id from StockBill where Id in (select top 1 Id from StockBill order by Id)",
                                 "select CloseAmount - 1,* from StockBill", "select count(*) from (select 1)"}) {

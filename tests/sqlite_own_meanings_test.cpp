@@ -108,6 +108,13 @@ TEST_F(SqliteOwnMeanings, Any_bytes_come_back_and_leave_one_shape) {
   }
 }
 
+// A server takes as much as its administrator lets it.
+TEST_F(SqliteOwnMeanings, Twenty_megabytes_of_text_come_back) {
+  const std::string remarks(20'000'000, '\\');
+  run("insert into Warehouse(Id,WName) values('W1'," + literal_of(remarks) + ")");
+  EXPECT_TRUE(text("select WName from Warehouse where Id='W1'") == remarks);
+}
+
 // Amounts are kept as numbers that are exact up to there and no further, so whatever is worked out has the limit too.
 class SqliteLargeAmounts : public SqliteBooks {};
 
