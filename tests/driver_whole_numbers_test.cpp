@@ -73,6 +73,12 @@ TEST_P(DriverWholeNumbers, What_is_no_number_is_refused_by_the_column) {
   EXPECT_EQ(error_of(*books, "update Widths set L='abc'||''"), ado::error::constraint_violated);
 }
 
+TEST_P(DriverWholeNumbers, A_quotient_of_whole_numbers_is_whole) {
+  expect_taken("L", "7/2", "3");
+  expect_taken("L", "-7/ 2", "-3");
+  EXPECT_EQ(count("select count(*) from Widths where 7/2=3"), 1);
+}
+
 TEST_P(DriverWholeNumbers, A_condition_may_ask_for_any_number) {
   EXPECT_EQ(count("select count(*) from Widths where L=3000000000"), 0);
   EXPECT_EQ(count("select count(*) from Widths where B>-1"), 1);

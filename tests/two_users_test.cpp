@@ -14,6 +14,7 @@
 #include "tests/support/apartment.h"
 #include "tests/support/books.h"
 #include "tests/support/folder.h"
+#include "tests/support/mariadb.h"
 
 namespace brunvik::test {
 namespace {
@@ -27,10 +28,24 @@ struct Engine {
 };
 
 const std::vector<Engine>& engines() {
-  static const std::vector<Engine> list{
-      {"sqlite", [](const Folder& folder) -> std::array<ado::ConnectionReference, 2> {
-         return {lay_books(folder.file("books.db")), sqlite::open(folder.file("books.db"))};
-       }}};
+  static const std::vector<Engine> list = [] {
+    using Two = std::array<ado::ConnectionReference, 2>;
+    std::vector<Engine> engines{{"sqlite", [](const Folder& folder) -> Two {
+                                   return {lay_books(folder.file("books.db")), sqlite::open(folder.file("books.db"))};
+                                 }}};
+    if (has_mariadb()) {
+      engines.push_back({"mariadb", [](const Folder&) -> Two {
+                           const auto laid = std::make_shared<MariaDbBooks>();
+                           const auto open = [&laid] {
+                             auto books = laid->open();
+                             return ado::ConnectionReference(books.get(),
+                                                             [laid, books](ado::Connection*) { books->Close(); });
+                           };
+                           return {open(), open()};
+                         }});
+    }
+    return engines;
+  }();
   return list;
 }
 

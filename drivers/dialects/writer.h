@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "drivers/dialects/characters.h"
+#include "drivers/dialects/cutter.h"
 
 namespace brunvik::dialects {
 
@@ -15,7 +16,7 @@ class Writer {
   void write(std::string_view words, bool blank_before) {
     const bool touching =
         !text_.empty() && !words.empty() &&
-        ((is_word(text_.back()) && (is_word(words.front()) || words.front() == '?')) ||
+        ((is_word(text_.back()) && (is_word(words.front()) || words.front() == '?' || is_mark(words.front()))) ||
          (text_.back() == '-' && words.front() == '-') || (text_.back() == '/' && words.front() == '*'));
     if ((blank_before || touching) && !text_.empty()) text_ += ' ';
     text_ += words;

@@ -66,6 +66,18 @@ std::optional<std::string_view> find(std::string_view connection_string,
   return {};
 }
 
+// A value as the engine gets it, where a brace that stands twice is one.
+std::string without_braces(std::string_view value) {
+  if (!value.starts_with('{')) return std::string(value);
+  value.remove_prefix(1);
+  std::string bare;
+  for (std::size_t place = 0; place < value.size(); ++place) {
+    if (value[place] == '}' && (++place == value.size() || value[place] != '}')) break;
+    bare += value[place];
+  }
+  return bare;
+}
+
 void add(std::string& connection_string, std::string_view keyword, std::string_view value) {
   if (!connection_string.empty() && !connection_string.ends_with(';')) connection_string += ';';
   connection_string.append(keyword).append("=").append(value);
@@ -111,9 +123,7 @@ std::string without_password(std::string_view connection_string) {
 std::string without_password_of(std::string_view connection_string, std::string text) {
   for (const Attribute& attribute : attributes_of(connection_string)) {
     if (!is_password(attribute)) continue;
-    std::string_view password = attribute.value;
-    for (const std::string_view form :
-         {password, password.starts_with('{') ? password.substr(1, password.size() - 2) : password}) {
+    for (const std::string& form : {std::string(attribute.value), without_braces(attribute.value)}) {
       if (form.empty()) continue;
       for (std::size_t place = text.find(form); place != std::string::npos; place = text.find(form, place + 3)) {
         text.replace(place, form.size(), "***");
