@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <utility>
 
 #include "drivers/odbc/failure.h"
 #include "drivers/odbc/literal.h"
@@ -18,6 +19,30 @@ bool is_bound_number(std::string_view digits) noexcept {
   return digits.size() <= 18 && digits.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
+// What the engine reckons with in the place of a number that stands behind a sign of arithmetic: exact, like a number
+// in a text.
+constexpr std::string_view decimal_place = "CAST(? AS DECIMAL(38,12))";
+constexpr std::size_t most_digits = 26;
+constexpr std::size_t most_places = 12;
+
+bool is_plain_decimal(std::string_view number) noexcept {
+  const auto point = number.find('.');
+  const std::string_view digits = number.substr(0, point);
+  const std::string_view places = point == std::string_view::npos ? std::string_view() : number.substr(point + 1);
+  const auto are_digits = [](std::string_view text) {
+    return text.find_first_not_of("0123456789") == std::string_view::npos;
+  };
+  return !digits.empty() && digits.size() <= most_digits && places.size() <= most_places && are_digits(digits) &&
+         are_digits(places);
+}
+
+bool ends_with_a_sign(std::string_view words) noexcept {
+  const auto last = words.find_last_not_of(" \t\r\n");
+  return last != std::string_view::npos && std::string_view("+-*").find(words[last]) != std::string_view::npos;
+}
+
+bool is_a_numbers(Target target) noexcept { return target == Target::money || target == Target::single; }
+
 // What a statement holds while it is carried out.
 struct Bound {
   std::string text;
@@ -25,7 +50,14 @@ struct Bound {
   SQLLEN length = 0;
 };
 
-void bind(const Statement& statement, SQLUSMALLINT number, const Literal& literal, Bound& bound) {
+void bind_text(const Statement& statement, SQLUSMALLINT number, std::string_view text, Bound& bound) {
+  bound.length = static_cast<SQLLEN>(text.size());
+  expect(SQLBindParameter(statement.get(), number, SQL_PARAM_INPUT, SQL_C_CHAR, SQL_VARCHAR,
+                          std::max<SQLULEN>(text.size(), 1), 0, as_characters(text), bound.length, &bound.length),
+         statement);
+}
+
+void bind(const Statement& statement, SQLUSMALLINT number, const Literal& literal, Target target, Bound& bound) {
   if (literal.kind == LiteralKind::number) {
     std::from_chars(literal.content.data(), literal.content.data() + literal.content.size(), bound.number);
     expect(SQLBindParameter(statement.get(), number, SQL_PARAM_INPUT, SQL_C_SBIGINT, SQL_BIGINT, 0, 0, &bound.number, 0,
@@ -38,10 +70,10 @@ void bind(const Statement& statement, SQLUSMALLINT number, const Literal& litera
     bound.text = with_single_apostrophes(literal.content);
     text = bound.text;
   }
-  bound.length = static_cast<SQLLEN>(text.size());
-  expect(SQLBindParameter(statement.get(), number, SQL_PARAM_INPUT, SQL_C_CHAR, SQL_VARCHAR,
-                          std::max<SQLULEN>(text.size(), 1), 0, as_characters(text), bound.length, &bound.length),
-         statement);
+  if (target == Target::key) {
+    while (text.ends_with(' ')) text.remove_suffix(1);
+  }
+  bind_text(statement, number, text, bound);
 }
 
 }  // namespace
@@ -51,7 +83,9 @@ MariaDbShape::MariaDbShape(MariaDbText text) : text_(std::move(text)) {
   for (const std::size_t value : text_.order) {
     const auto mark = std::find_if(rest.begin(), rest.end(), dialects::is_mark);
     const auto length = static_cast<std::size_t>(mark - rest.begin());
-    pieces_.push_back({std::string(rest.substr(0, length)), value});
+    const std::string_view words = rest.substr(0, length);
+    const bool is_number = is_a_numbers(text_.targets[value]) || dialects::kind_of_mark(*mark) == LiteralKind::number;
+    pieces_.push_back({std::string(words), value, !text_.is_selection && is_number && ends_with_a_sign(words)});
     rest.remove_prefix(length + 1);
   }
   end_ = rest;
@@ -63,32 +97,50 @@ std::size_t MariaDbShape::held_bytes() const noexcept {
   return 2 * text_.shape.size() + of_a_statement;
 }
 
+bool MariaDbShape::can_be_bound(const Piece& piece, const Literal& literal) const noexcept {
+  if (piece.is_decimal || is_a_numbers(text_.targets[piece.value])) return is_plain_decimal(literal.content);
+  return literal.kind != LiteralKind::number || is_bound_number(literal.content);
+}
+
 bool MariaDbShape::can_be_bound(std::span<const Literal> literals) const noexcept {
-  return text_.is_selection && std::all_of(literals.begin(), literals.end(), [](const Literal& literal) {
-           return literal.kind != LiteralKind::number || is_bound_number(literal.content);
-         });
+  return std::all_of(pieces_.begin(), pieces_.end(),
+                     [&](const Piece& piece) { return can_be_bound(piece, literals[piece.value]); });
 }
 
 ado::Recordset MariaDbShape::run(std::span<const Literal> literals, const Link& link, const Statement& direct,
                                  std::string_view statement) {
-  if (can_be_bound(literals)) return run_prepared(literals, link);
+  const bool is_worth_it = text_.is_selection || std::exchange(was_used_, true);
+  if (is_worth_it && can_be_bound(literals)) return run_prepared(literals, link, statement);
   return run_direct(literals, direct, statement);
 }
 
-ado::Recordset MariaDbShape::run_prepared(std::span<const Literal> literals, const Link& link) {
-  if (!prepared_.get()) {
-    std::string text;
-    for (const Piece& piece : pieces_) text += piece.words + "?";
-    text += end_;
-    Statement statement = link.statement();
-    expect(SQLPrepare(statement.get(), as_characters(text), static_cast<SQLINTEGER>(text.size())), statement);
-    prepared_ = std::move(statement);
-  }
+void MariaDbShape::prepare(const Link& link) {
+  std::string text;
+  for (const Piece& piece : pieces_) text.append(piece.words).append(piece.is_decimal ? decimal_place : "?");
+  text += end_;
+  Statement statement = link.statement();
+  expect(SQLPrepare(statement.get(), as_characters(text), static_cast<SQLINTEGER>(text.size())), statement);
+  prepared_ = std::move(statement);
+}
+
+ado::Recordset MariaDbShape::run_prepared(std::span<const Literal> literals, const Link& link,
+                                          std::string_view statement) {
+  if (!prepared_.get()) prepare(link);
   std::vector<Bound> bound(pieces_.size());
   for (std::size_t place = 0; place < pieces_.size(); ++place) {
-    bind(prepared_, static_cast<SQLUSMALLINT>(place + 1), literals[pieces_[place].value], bound[place]);
+    const Piece& piece = pieces_[place];
+    const Literal& literal = literals[piece.value];
+    const Target target = text_.targets[piece.value];
+    const auto number = static_cast<SQLUSMALLINT>(place + 1);
+    if (piece.is_decimal || is_a_numbers(target)) {
+      append_literal(bound[place].text, literal, target, statement);
+      bind_text(prepared_, number, bound[place].text, bound[place]);
+    } else {
+      bind(prepared_, number, literal, target, bound[place]);
+    }
   }
   expect(SQLExecute(prepared_.get()), prepared_);
+  if (!text_.is_selection) return {};
   // The tables may have got columns since, which a * selects, too.
   SQLSMALLINT count = 0;
   expect(SQLNumResultCols(prepared_.get(), &count), prepared_);

@@ -1,8 +1,9 @@
 // A shape of statements in MariaDB's words: takes the values of one statement of the shape and carries it out.
 //
-// A SELECT is kept prepared and its values are bound: the engine reads its text once. Everything else is sent as a text
-// with its values in it, which costs the engine no more than a prepared one, and leaves each number what it is written
-// as: a decimal that is bound would become a double.
+// A statement is kept prepared and its values are bound: the engine reads its text once. A SELECT is prepared at once,
+// what changes rows with its second use, for the first costs a way to the server more. A decimal that is bound would
+// become a double, so that a statement is sent as a text where the engine itself would reckon with one; behind a sign
+// of arithmetic its place is that of a decimal.
 #pragma once
 
 #include <span>
@@ -34,10 +35,14 @@ class MariaDbShape {
   struct Piece {
     std::string words;
     std::size_t value;  // which stands behind the words
+    bool is_decimal;    // whatever number it is, the engine reckons with it as a decimal
   };
 
   bool can_be_bound(std::span<const dialects::Literal> literals) const noexcept;
-  ado::Recordset run_prepared(std::span<const dialects::Literal> literals, const Link& link);
+  bool can_be_bound(const Piece& piece, const dialects::Literal& literal) const noexcept;
+  void prepare(const Link& link);
+  ado::Recordset run_prepared(std::span<const dialects::Literal> literals, const Link& link,
+                              std::string_view statement);
   ado::Recordset run_direct(std::span<const dialects::Literal> literals, const Statement& direct,
                             std::string_view statement) const;
 
@@ -45,6 +50,7 @@ class MariaDbShape {
   std::vector<Piece> pieces_;
   std::string end_;
   Statement prepared_;
+  bool was_used_ = false;
   std::vector<ResultColumns> columns_;  // one, where it was prepared
 };
 
