@@ -30,4 +30,11 @@ void register_family_growth();
 // BRUNVIK_BENCH_MARIADB or BRUNVIK_BENCH_CLUSTER has its connection string, or those of its nodes, without a database.
 void register_clients();
 
+// The library and the driver on a server, and the growth of books there; where there is one, BRUNVIK_BENCH_MARIADB.
+void register_servers();
+
+// How many documents a second SQLite, a server and a cluster take, durable; where there is one, BRUNVIK_BENCH_MARIADB
+// or BRUNVIK_BENCH_CLUSTER.
+void register_documents();
+
 }  // namespace brunvik::bench

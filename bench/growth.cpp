@@ -4,6 +4,7 @@
 
 #include "bench/benchmarks.h"
 #include "bench/books.h"
+#include "bench/comparisons.h"
 #include "bench/life.h"
 #include "bench/times.h"
 
@@ -12,6 +13,7 @@ namespace brunvik::bench {
 namespace {
 
 constexpr int rounds = 200;
+
 // Not counted: they bring what every document needs into the caches, and the logs to their size.
 constexpr unsigned rounds_before = 16;
 
@@ -37,9 +39,11 @@ struct Books {
   }
 };
 
-void growth(benchmark::State& state, const Document& document) {
-  const Books& books = Books::filled();
-  Times few, many;
+}  // namespace
+
+void compare_sizes(benchmark::State& state, const Document& document, const ado::ConnectionReference& few,
+                   const ado::ConnectionReference& many) {
+  Times few_times, many_times;
   const auto live = [&](const ado::ConnectionReference& connection, unsigned seed, Times& times) {
     start_session(connection);
     const Life life = document.life(connection, seed, Numbering::proposed);
@@ -48,31 +52,30 @@ void growth(benchmark::State& state, const Document& document) {
   Times ignored;
   unsigned seed = 0;
   for (; seed < rounds_before; ++seed) {
-    live(books.few, seed, ignored);
-    live(books.many, seed, ignored);
+    live(few, seed, ignored);
+    live(many, seed, ignored);
   }
   for (auto _ : state) {
     if (++seed % 2 == 0) {
-      live(books.few, seed, few);
-      live(books.many, seed, many);
+      live(few, seed, few_times);
+      live(many, seed, many_times);
     } else {
-      live(books.many, seed, many);
-      live(books.few, seed, few);
+      live(many, seed, many_times);
+      live(few, seed, few_times);
     }
   }
-  for (const Step& step : document.life(books.few, 0, Numbering::proposed).steps) {
+  for (const Step& step : document.life(few, 0, Numbering::proposed).steps) {
     if (!step.timed) continue;
-    state.counters[step.verb] = many.median(step.verb) / few.median(step.verb);
-    state.counters[step.verb + "_us"] = many.median(step.verb);
+    state.counters[step.verb] = many_times.median(step.verb) / few_times.median(step.verb);
+    state.counters[step.verb + "_us"] = many_times.median(step.verb);
   }
 }
 
-}  // namespace
-
 void register_growth() {
   for (const Document& document : documents) {
-    benchmark::RegisterBenchmark(("growth/" + document.name).c_str(),
-                                 [=](benchmark::State& state) { growth(state, document); })
+    benchmark::RegisterBenchmark(
+        ("growth/" + document.name).c_str(),
+        [=](benchmark::State& state) { compare_sizes(state, document, Books::filled().few, Books::filled().many); })
         ->Iterations(rounds)
         ->Unit(benchmark::kMillisecond);
   }

@@ -6,6 +6,7 @@
 
 #include "bench/benchmarks.h"
 #include "bench/books.h"
+#include "bench/comparisons.h"
 #include "bench/family_life.h"
 #include "bench/life.h"
 #include "bench/recording.h"
@@ -13,18 +14,10 @@
 
 namespace brunvik::bench {
 
-namespace {
-
-constexpr unsigned lives = 16;
-constexpr int rounds = 320;
-
-void library_share(benchmark::State& state, const Document& document, const Place& place) {
-  const Folder folder;
-  const std::string books = folder.file("books.db");
-  lay_books_for(document, books);
-  const auto connection = open_copy(folder, books, place);
+void compare_with_replay(benchmark::State& state, const Document& document,
+                         const ado::ConnectionReference& connection) {
   std::vector<RecordedLife> recorded;
-  for (unsigned seed = 0; seed < lives; ++seed) recorded.push_back(record(connection, document.life, seed));
+  for (unsigned seed = 0; seed < recorded_lives; ++seed) recorded.push_back(record(connection, document.life, seed));
 
   Times verbs, replays, ignored;
   const auto live = [&](unsigned seed, Times& times) {
@@ -39,13 +32,13 @@ void library_share(benchmark::State& state, const Document& document, const Plac
     }
   };
   // Not counted: a log is written faster once its file has its size.
-  for (unsigned seed = 0; seed < lives; ++seed) {
+  for (unsigned seed = 0; seed < recorded_lives; ++seed) {
     live(seed, ignored);
     replay(seed, ignored);
   }
   unsigned round = 0;
   for (auto _ : state) {
-    const unsigned seed = round % lives;
+    const unsigned seed = round % recorded_lives;
     if (round++ % 2 == 0) {
       live(seed, verbs);
       replay(seed, replays);
@@ -60,6 +53,17 @@ void library_share(benchmark::State& state, const Document& document, const Plac
     state.counters[step.verb + "_us"] = verbs.median(step.verb);
   }
   state.counters["all"] = verbs.sum_of_medians() / replays.sum_of_medians();
+}
+
+namespace {
+
+constexpr int rounds = 320;
+
+void library_share(benchmark::State& state, const Document& document, const Place& place) {
+  const Folder folder;
+  const std::string books = folder.file("books.db");
+  lay_books_for(document, books);
+  compare_with_replay(state, document, open_copy(folder, books, place));
 }
 
 }  // namespace

@@ -20,6 +20,8 @@ int main(int count, char** arguments) try {
   bench::register_growth();
   bench::register_family_growth();
   bench::register_clients();
+  bench::register_servers();
+  bench::register_documents();
   benchmark::RunSpecifiedBenchmarks();
   return 0;
 } catch (const std::exception& failure) {

@@ -1,24 +1,9 @@
 #include "bench/plain_sqlite.h"
 
-#include <charconv>
 #include <stdexcept>
-#include <type_traits>
+#include <utility>
 
 namespace brunvik::bench {
-
-namespace {
-
-bool is_word(char c) { return c == '_' || (c >= '0' && c <= '9') || ((c | 0x20) >= 'a' && (c | 0x20) <= 'z'); }
-bool is_digit(char c) { return c >= '0' && c <= '9'; }
-
-template <class Number>
-Number number(std::string_view digits) {
-  Number value{};
-  std::from_chars(digits.data(), digits.data() + digits.size(), value);
-  return value;
-}
-
-}  // namespace
 
 PlainSqlite::PlainSqlite(const std::string& path) {
   sqlite3* database = nullptr;
@@ -51,45 +36,14 @@ void PlainSqlite::execute(const std::string& text) {
 }
 
 PreparedText PlainSqlite::prepare(std::string_view text) {
-  PreparedText prepared;
-  std::string words;
-  for (std::size_t place = 0; place < text.size();) {
-    const std::size_t first = place;
-    if (text[place] == '\'') {
-      std::string value;
-      for (++place; text[place] != '\'' || text.substr(place).starts_with("''"); ++place) {
-        value += text[place];
-        if (text[place] == '\'') ++place;
-      }
-      ++place;
-      words += '?';
-      prepared.values.emplace_back(std::move(value));
-    } else if (is_digit(text[place]) && (place == 0 || !is_word(text[place - 1]))) {
-      while (place < text.size() && (is_digit(text[place]) || text[place] == '.')) ++place;
-      const std::string_view digits = text.substr(first, place - first);
-      // As whoever writes the statement for its index would have it: it holds nothing but the rows with a zero.
-      if (digits == "0" && words.ends_with('=') && words.starts_with("select")) {
-        words += digits;
-        continue;
-      }
-      words += '?';
-      if (digits.find('.') == std::string_view::npos) {
-        prepared.values.emplace_back(number<std::int64_t>(digits));
-      } else {
-        prepared.values.emplace_back(number<double>(digits));
-      }
-    } else {
-      words += text[place++];
-    }
-  }
-  auto& statement = statements_[words];
+  BoundText bound = with_bound_values(text);
+  auto& statement = statements_[bound.words];
   if (!statement) {
     sqlite3_stmt* made = nullptr;
-    check(sqlite3_prepare_v3(database_.get(), words.c_str(), -1, SQLITE_PREPARE_PERSISTENT, &made, nullptr));
+    check(sqlite3_prepare_v3(database_.get(), bound.words.c_str(), -1, SQLITE_PREPARE_PERSISTENT, &made, nullptr));
     statement.reset(made);
   }
-  prepared.statement = statement.get();
-  return prepared;
+  return {statement.get(), std::move(bound.values)};
 }
 
 void PlainSqlite::execute(const PreparedText& text) {

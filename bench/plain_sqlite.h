@@ -3,14 +3,13 @@
 
 #include <sqlite3.h>
 
-#include <cstdint>
 #include <map>
 #include <memory>
 #include <string>
 #include <string_view>
-#include <variant>
 #include <vector>
 
+#include "bench/bound_text.h"
 #include "drivers/sqlite/connection.h"
 
 namespace brunvik::bench {
@@ -18,7 +17,7 @@ namespace brunvik::bench {
 // A statement written with ? for its values, and the values of one use of it.
 struct PreparedText {
   sqlite3_stmt* statement = nullptr;
-  std::vector<std::variant<std::int64_t, double, std::string>> values;
+  std::vector<BoundValue> values;
 };
 
 class PlainSqlite {
