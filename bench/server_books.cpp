@@ -1,6 +1,7 @@
 #include "bench/server_books.h"
 
 #include <sqlite3.h>
+#include <unistd.h>
 
 #include <cstdlib>
 #include <memory>
@@ -27,7 +28,7 @@ std::string first_of(const std::string& servers) { return servers.substr(0, serv
 
 std::string next_name() {
   static int count = 0;
-  return "books_bench_" + std::to_string(++count);
+  return "books_bench_" + std::to_string(getpid()) + "_" + std::to_string(++count);
 }
 
 // The rows of a table as the values of an insert: (1,'a'),(2,'b')

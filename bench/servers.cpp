@@ -18,7 +18,7 @@ namespace brunvik::bench {
 namespace {
 
 constexpr int rounds = 160;
-constexpr int growth_rounds = 200;
+constexpr int growth_rounds = 100;
 
 // Books of a thousand bills, and of as many as are asked for, laid once for all documents.
 struct Books {
