@@ -17,7 +17,7 @@ namespace brunvik::bench {
 
 namespace {
 
-constexpr int rounds = 160;
+constexpr int rounds = 80;
 constexpr int growth_rounds = 100;
 
 // Books of a thousand bills, and of as many as are asked for, laid once for all documents.
