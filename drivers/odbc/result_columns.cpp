@@ -52,24 +52,31 @@ Number number_in(const std::vector<char>& place) {
   return number;
 }
 
-// A text without a bound, in pieces.
+// A text without a bound. Nearly all are short, and come in one piece; what is left of a longer one comes at once.
 std::string long_text(const Statement& statement, SQLUSMALLINT number, bool& is_null) {
   std::string text;
-  std::vector<char> piece(std::size_t{16} * 1'024);
+  std::array<char, 1'024> front;
+  char* room = front.data();
+  std::size_t size = front.size();
   for (;;) {
     SQLLEN length = 0;
-    const SQLRETURN result =
-        SQLGetData(statement.get(), number, SQL_C_CHAR, piece.data(), static_cast<SQLLEN>(piece.size()), &length);
-    if (result == SQL_NO_DATA) return text;
+    const SQLRETURN result = SQLGetData(statement.get(), number, SQL_C_CHAR, room, static_cast<SQLLEN>(size), &length);
     expect(result, statement);
     is_null = length == SQL_NULL_DATA;
-    if (is_null) return text;
-    const bool goes_on =
-        result == SQL_SUCCESS_WITH_INFO && (length == SQL_NO_TOTAL || std::size_t(length) >= piece.size());
-    text.append(piece.data(), goes_on ? piece.size() - 1 : static_cast<std::size_t>(length));
+    if (is_null || result == SQL_NO_DATA) return text;
+    const std::size_t left = length == SQL_NO_TOTAL ? 2 * size : static_cast<std::size_t>(length);
+    const bool goes_on = left >= size;
+    const std::size_t got = goes_on ? size - 1 : left;
+    if (room == front.data()) {
+      text.assign(room, got);
+    } else {
+      text.resize(text.size() - size + got);
+    }
     if (!goes_on) return text;
-    // What is left is known now, so the rest comes at once.
-    if (length != SQL_NO_TOTAL) piece.resize(static_cast<std::size_t>(length) + 1);
+    // Behind what is there, with a place for the zero that ODBC puts at the end.
+    size = left - got + 1;
+    text.resize(text.size() + size);
+    room = text.data() + text.size() - size;
   }
 }
 
