@@ -19,7 +19,7 @@ namespace {
 constexpr std::size_t large_block = 1 << 20;
 
 // Left to itself the GNU C library takes the largest block that came for an ordinary one, and keeps its room: remarks
-// of 20 MB left a run with 130 MB.
+// of 20 MB left a run with 120 MB.
 void give_back_large_blocks() {
 #ifdef __GLIBC__
   mallopt(M_MMAP_THRESHOLD, large_block);

@@ -81,7 +81,7 @@ void MariaDb::expect_not_too_long(std::string_view statement) const {
   const std::size_t bytes = has_zeros ? 2 * statement.size() : statement.size();
   if (bytes <= longest_statement_) return;
   throw ado::RuntimeError(ado::error::provider_failed,
-                          "The statement is too long for the server, whose max_allowed_packet is " +
+                          "The statement is too long for the server, whose max_allowed_packet leaves " +
                               std::to_string(longest_statement_) + " bytes for a statement.");
 }
 
