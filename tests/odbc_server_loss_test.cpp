@@ -1,6 +1,12 @@
 // A server that is lost in the middle: the statement that meets it fails and is never sent again, the next one finds a
 // server or says that there is none, and a transaction is gone as a whole.
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
 #include <chrono>
+#include <cstring>
+#include <thread>
 
 #include "tests/support/driver_books.h"
 #include "tests/support/mariadb.h"
@@ -74,6 +80,30 @@ TEST_F(OdbcLoss, The_commit_of_a_lost_transaction_is_an_error_that_ends_it) {
   EXPECT_EQ(warehouses(*books_), 0);
 }
 
+// Stands in the place of a server that is about to end: takes one connection, closes it without a word, and is gone.
+class EndingServer {
+ public:
+  explicit EndingServer(const std::string& path) {
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    std::strncpy(address.sun_path, path.c_str(), sizeof address.sun_path - 1);
+    unlink(path.c_str());
+    bind(listening_, reinterpret_cast<const sockaddr*>(&address), sizeof address);
+    listen(listening_, 1);
+    taking_ = std::thread([this] {
+      close(accept(listening_, nullptr, nullptr));
+      close(listening_);
+    });
+  }
+  EndingServer(const EndingServer&) = delete;
+  EndingServer& operator=(const EndingServer&) = delete;
+  ~EndingServer() { taking_.join(); }
+
+ private:
+  int listening_ = socket(AF_UNIX, SOCK_STREAM, 0);
+  std::thread taking_;
+};
+
 class OdbcOwnServerLoss : public ::testing::Test {
  protected:
   std::shared_ptr<odbc::Connection> lay_books(const odbc::Options& options = {}) {
@@ -100,6 +130,16 @@ TEST_F(OdbcOwnServerLoss, One_that_ends_fails_its_statement_at_once_and_the_next
   EXPECT_LT(Clock::now() - begin, 15s);
   server_.start();
   EXPECT_EQ(warehouses(*books), 1);
+}
+
+TEST_F(OdbcOwnServerLoss, What_stood_in_the_way_last_is_told_and_not_what_stood_there_at_first) {
+  const auto books = lay_books({.reopen_timeout = 1s});
+  server_.end_at_once();
+  EXPECT_EQ(error_of(*books, all_warehouses), error::provider_failed);
+  const EndingServer ending(server_.socket());
+  const auto failure = failure_of([&] { books->Execute(all_warehouses); });
+  EXPECT_EQ(failure.number(), error::provider_failed);
+  EXPECT_TRUE(holds(failure, "Can't connect")) << failure.description();
 }
 
 TEST_F(OdbcOwnServerLoss, One_that_falls_silent_is_waited_for_as_long_as_the_host_said) {

@@ -34,6 +34,7 @@ Engine::Engine(const std::string& address, Options options)
 }
 
 std::unique_ptr<Server> Engine::first_that_answers(std::string& reason, std::chrono::seconds time_to_open) const {
+  reason.clear();
   for (const std::string& connection_string : servers_) {
     const auto shown = [&](const std::string& text) {
       return without_password_of(with_password(connection_string, options_.password), text);

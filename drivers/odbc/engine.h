@@ -32,7 +32,8 @@ class Engine {
   // none answers in time.
   Server& server(std::string_view statement);
 
-  // Tries each server once. Null, with the first failure's text, where none answers.
+  // Tries each server once. Null, with this round's first failure in the place of an earlier one's, where none
+  // answers.
   std::unique_ptr<Server> first_that_answers(std::string& reason, std::chrono::seconds time_to_open) const;
 
   void expect_known_tables(Server& server) const;

@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <string_view>
 
 namespace brunvik::test {
 
@@ -30,6 +31,12 @@ OwnServer::~OwnServer() {
 void OwnServer::start() {
   address_ = written_by(script("start") + " --fast " + settings_ + " 2>/dev/null");
   address_ = address_.substr(0, address_.find('\n'));
+}
+
+std::string OwnServer::socket() const {
+  const std::string_view keyword = "SOCKET=";
+  const auto first = address_.find(keyword) + keyword.size();
+  return address_.substr(first, address_.find(';', first) - first);
 }
 
 void OwnServer::end_at_once() const { kill(process(), SIGKILL); }

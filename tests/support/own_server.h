@@ -30,6 +30,9 @@ class OwnServer {
   const std::string& address() const { return address_; }
   std::string connection_string() const { return address_.substr(address_.find(':') + 1); }
 
+  // The path of the socket that it listens on.
+  std::string socket() const;
+
   void end_at_once() const;
   void fall_silent() const;
   void go_on() const;
