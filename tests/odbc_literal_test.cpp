@@ -10,6 +10,7 @@ namespace {
 
 using dialects::Literal;
 using dialects::LiteralKind;
+using dialects::Target;
 
 std::string written(LiteralKind kind, std::string_view content, Target target) {
   Literal literal{};

@@ -78,7 +78,7 @@ class Rewriter final : public dialects::Rewriter {
     const bool is_amount = type == ColumnType::money || type == ColumnType::single;
     while (bare < end && is_sign(tokens_[bare]) && is_amount) ++bare;
     if (bare + 1 == end && tokens_[bare].kind == TokenKind::parameter) {
-      text_.targets[tokens_[bare].parameter] = target_of(type);
+      text_.targets[tokens_[bare].parameter] = dialects::target_of(type);
       return range(first, end);
     }
     const bool as_it_is = type != ColumnType::single || first == end || tokens_[bare].is("null") ||
@@ -87,19 +87,6 @@ class Rewriter final : public dialects::Rewriter {
     out_.write(single_begin, tokens_[first].blank_before);
     range(first, end);
     out_.write(single_end, false);
-  }
-
-  static Target target_of(ColumnType type) {
-    switch (type) {
-      case ColumnType::key:
-        return Target::key;
-      case ColumnType::money:
-        return Target::money;
-      case ColumnType::single:
-        return Target::single;
-      default:
-        return Target::plain;
-    }
   }
 
   void like(std::size_t place) override {

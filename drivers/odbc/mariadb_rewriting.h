@@ -14,17 +14,15 @@
 
 #include "drivers/dialects/cutter.h"
 #include "drivers/dialects/selection.h"
+#include "drivers/dialects/target.h"
 
 namespace brunvik::odbc {
-
-// What a cut-out value has to become for the column that it goes into.
-enum class Target : unsigned char { plain, key, money, single };
 
 struct MariaDbText {
   // Its values are cut out, each with a mark in its place.
   std::string shape;
-  std::vector<std::size_t> order;  // for each mark, which value of the statement it stands for
-  std::vector<Target> targets;     // for each value of the statement
+  std::vector<std::size_t> order;         // for each mark, which value of the statement it stands for
+  std::vector<dialects::Target> targets;  // for each value of the statement
   dialects::Selection selection;
   bool is_selection = false;
 };

@@ -13,6 +13,7 @@ namespace {
 
 using dialects::Literal;
 using dialects::LiteralKind;
+using dialects::Target;
 
 // As many digits as a 64-bit number surely holds.
 bool is_bound_number(std::string_view digits) noexcept {

@@ -13,13 +13,11 @@
 #include <vector>
 
 #include "drivers/dialects/selection.h"
+#include "drivers/dialects/target.h"
 #include "drivers/sqlite/catalogue.h"
 #include "drivers/sqlite/dialects.h"
 
 namespace brunvik::sqlite {
-
-// What a cut-out value becomes when it is bound.
-enum class Target : unsigned char { plain, key, money, single, byte_number, integer_number, long_number };
 
 struct Rewritten {
   std::string text;

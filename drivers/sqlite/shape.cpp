@@ -6,7 +6,6 @@
 #include "brunvik/ado/numbers.h"
 #include "drivers/dialects/memory.h"
 #include "drivers/dialects/rounding.h"
-#include "drivers/sqlite/assignment.h"
 
 namespace brunvik::sqlite {
 
