@@ -40,14 +40,7 @@ const EngineWords& access_words() {
       .opening_quote = "[",
       .closing_quote = "]",
       .declaration = declaration,
-      .key = " NOT NULL PRIMARY KEY",
-      .no_key = "",
-      .table_end = "",
-      .add = "ADD COLUMN ",
-      .initial_for_rows = "",
       .updates_rows = true,
-      .own_columns = no_own_columns,
-      .indexes = plain_indexes,
   };
   return words;
 }

@@ -70,12 +70,7 @@ const EngineWords& mariadb_words() {
       .opening_quote = "`",
       .closing_quote = "`",
       .declaration = declaration,
-      .key = " NOT NULL PRIMARY KEY",
-      .no_key = "",
       .table_end = " ENGINE=InnoDB ROW_FORMAT=DYNAMIC DEFAULT CHARACTER SET=utf8mb4 COLLATE=utf8mb4_uca1400_as_ci",
-      .add = "ADD COLUMN ",
-      .initial_for_rows = "",
-      .updates_rows = false,
       .own_columns = own_columns,
       .indexes = indexes,
   };

@@ -50,16 +50,7 @@ std::vector<Index> indexes(const Table& table) {
 
 const EngineWords& sqlite_words() {
   static constexpr EngineWords words{
-      .opening_quote = "",
-      .closing_quote = "",
       .declaration = declaration,
-      .key = " NOT NULL PRIMARY KEY",
-      .no_key = "",
-      .table_end = "",
-      .add = "ADD COLUMN ",
-      .initial_for_rows = "",
-      .updates_rows = false,
-      .own_columns = no_own_columns,
       .indexes = indexes,
   };
   return words;

@@ -43,14 +43,9 @@ const EngineWords& sqlserver_words() {
       .opening_quote = "[",
       .closing_quote = "]",
       .declaration = declaration,
-      .key = " NOT NULL PRIMARY KEY",
       .no_key = " NULL",
-      .table_end = "",
       .add = "ADD ",
       .initial_for_rows = " WITH VALUES",
-      .updates_rows = false,
-      .own_columns = no_own_columns,
-      .indexes = plain_indexes,
   };
   return words;
 }

@@ -29,29 +29,6 @@ struct Index {
   std::string condition = {};  // of the rows that stand in it; empty: all
 };
 
-struct EngineWords {
-  std::string_view opening_quote;
-  std::string_view closing_quote;
-  Declaration (*declaration)(Type type);
-  std::string_view key;     // behind the type of the key column
-  std::string_view no_key;  // behind that of any other
-  std::string_view table_end;
-  std::string_view add;  // in front of a column that a table lacks
-  // Behind the initial value of such a column, so that the rows that are there get it too.
-  std::string_view initial_for_rows;
-  // Whether they get it by an update of its own.
-  bool updates_rows;
-  std::vector<OwnColumn> (*own_columns)(const Table& table);
-  std::vector<Index> (*indexes)(const Table& table);
-};
-
-const EngineWords& words_of(Engine engine);
-
-const EngineWords& sqlite_words();
-const EngineWords& mariadb_words();
-const EngineWords& sqlserver_words();
-const EngineWords& access_words();
-
 // Of an engine that needs none.
 std::vector<OwnColumn> no_own_columns(const Table& table);
 
@@ -61,5 +38,29 @@ Index described_index(std::string_view text);
 // The described indexes over all rows. That of the numbers which texts stand for is left out: it needs an expression or
 // a column of its own.
 std::vector<Index> plain_indexes(const Table& table);
+
+// What an engine's file doesn't say is as it is here.
+struct EngineWords {
+  std::string_view opening_quote = {};
+  std::string_view closing_quote = {};
+  Declaration (*declaration)(Type type);
+  std::string_view key = " NOT NULL PRIMARY KEY";  // behind the type of the key column
+  std::string_view no_key = {};                    // behind that of any other
+  std::string_view table_end = {};
+  std::string_view add = "ADD COLUMN ";  // in front of a column that a table lacks
+  // Behind the initial value of such a column, so that the rows that are there get it too.
+  std::string_view initial_for_rows = {};
+  // Whether they get it by an update of its own.
+  bool updates_rows = false;
+  std::vector<OwnColumn> (*own_columns)(const Table& table) = no_own_columns;
+  std::vector<Index> (*indexes)(const Table& table) = plain_indexes;
+};
+
+const EngineWords& words_of(Engine engine);
+
+const EngineWords& sqlite_words();
+const EngineWords& mariadb_words();
+const EngineWords& sqlserver_words();
+const EngineWords& access_words();
 
 }  // namespace brunvik::schema
