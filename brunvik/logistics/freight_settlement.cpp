@@ -31,12 +31,7 @@ const Members& clsSendGoodsVouchersbill::members() const {
   static const Members table{
       connection<&C::ADOConn>("ADOConn"),
       collection<&C::colSGVItems>("colSGVItems"),
-      property<&C::ID>("ID", "Id"),
-      property<&C::Manualid>("Manualid", "Manualid"),
-      property<&C::Manager>("Manager", "Manager"),
-      property<&C::Ccompany>("Ccompany", "Ccompany"),
-      property<&C::Paidamount>("Paidamount", "Paidamount"),
-      property<&C::Amount>("Amount", "Amount"),
+      voucher_heading<C, &C::Manager>("Manager"),
       voucher_marks<C>(),
       property<&C::Remarks>("Remarks", "Remarks"),
       property<&C::Sxfbl>("Sxfbl", "Sxfbl"),

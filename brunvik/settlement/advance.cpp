@@ -23,12 +23,7 @@ const Members& Advance::table() {
   static const Members table{
       connection<&C::ADOConn>("ADOConn"),
       collection<&C::colAdvanceItems>("colAdvanceItems"),
-      property<&C::ID>("ID", "Id"),
-      property<&C::Manualid>("Manualid", "Manualid"),
-      property<&C::Payer>("Payer", "Manager"),
-      property<&C::Ccompany>("Ccompany", "Ccompany"),
-      property<&C::Paidamount>("Paidamount", "Paidamount"),
-      property<&C::Amount>("Amount", "Amount"),
+      voucher_heading<C, &C::Payer>("Payer"),
       property<&C::Nowpay>("Nowpay", "Nowpay"),
       voucher_marks<C>(),
       property<&C::Referflag>("Referflag", "Referflag"),

@@ -5,6 +5,19 @@
 
 namespace brunvik {
 
+// Its number, who handled the money, the other party, and the money: really paid or received, and settled.
+template <class C, auto manager>
+MemberGroup voucher_heading(std::string_view manager_name) {
+  return {
+      property<&C::ID>("ID", "Id"),
+      property<&C::Manualid>("Manualid", "Manualid"),
+      property<manager>(manager_name, "Manager"),
+      property<&C::Ccompany>("Ccompany", "Ccompany"),
+      property<&C::Paidamount>("Paidamount", "Paidamount"),
+      property<&C::Amount>("Amount", "Amount"),
+  };
+}
+
 // Its status, and by whom and when it was made and audited.
 template <class C>
 MemberGroup voucher_marks() {
