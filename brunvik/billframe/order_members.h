@@ -3,7 +3,7 @@
 
 #include <utility>
 
-#include "brunvik/foundation/late_binding.h"
+#include "brunvik/billframe/bill_members.h"
 
 namespace brunvik {
 
@@ -34,14 +34,10 @@ Members order_members(OwnOrderMembers own) {
       property<&C::Remarks>("Remarks", "Remarks"),
       verb<&C::Save>("Save"),
       verb<&C::Delete>("Delete"),
-      verb<&C::LoadLast>("LoadLast"),
-      verb<&C::GetLastId>("GetLastId", out("LastId")),
-      verb<&C::LoadById>("LoadById", in_out("BID")),
-      verb<&C::LoadNext>("LoadNext"),
-      verb<&C::LoadPreviou>("LoadPreviou"),
+      last_by_id_and_neighbours<C>(),
       std::move(own.read_links),
       verb<&C::GetNewId>("GetNewId", out("BID")),
-      verb<&C::GetNearId>("GetNearId", in("CurBillID"), out("NearBillID"), optional(in("NextPreviousId"), false)),
+      near_id<C>(),
       verb<&C::AddSaleOrderQty>("AddSaleOrderQty", in("objBillItems")),
       verb<&C::ReduceSaleOrderQty>("ReduceSaleOrderQty", in("objBillItems")),
       std::move(own.delete_links),

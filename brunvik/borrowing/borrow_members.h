@@ -3,7 +3,7 @@
 
 #include <utility>
 
-#include "brunvik/foundation/late_binding.h"
+#include "brunvik/billframe/bill_members.h"
 
 namespace brunvik {
 
@@ -49,7 +49,7 @@ Members borrow_members(OwnBorrowMembers own) {
       verb<&C::LoadNext>("LoadNext"),
       verb<&C::LoadPreviou>("LoadPreviou"),
       verb<&C::LoadById>("LoadById", in_out("BID")),
-      verb<&C::GetNearId>("GetNearId", in("CurBillID"), out("NearBillID"), optional(in("NextPreviousId"), false)),
+      near_id<C>(),
       verb<&C::Audit>("Audit"),
       verb<&C::UndoAudit>("UndoAudit"),
       std::move(own.verbs),

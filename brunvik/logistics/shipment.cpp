@@ -2,9 +2,9 @@
 
 #include <utility>
 
+#include "brunvik/billframe/bill_members.h"
 #include "brunvik/billframe/bill_number.h"
 #include "brunvik/foundation/error_trap.h"
-#include "brunvik/foundation/late_binding.h"
 #include "brunvik/settlement/ledger.h"
 
 namespace brunvik {
@@ -53,12 +53,8 @@ const Members& clsSendGoodsBill::members() const {
       verb<&C::Delete>("Delete"),
       verb<&C::UpdateItems>("UpdateItems"),
       verb<&C::GetNewId>("GetNewId", out("BID")),
-      verb<&C::LoadLast>("LoadLast"),
-      verb<&C::GetLastId>("GetLastId", out("LastId")),
-      verb<&C::LoadById>("LoadById", in_out("BID")),
-      verb<&C::LoadNext>("LoadNext"),
-      verb<&C::LoadPreviou>("LoadPreviou"),
-      verb<&C::GetNearId>("GetNearId", in("CurBillID"), out("NearBillID"), optional(in("NextPreviousId"), false)),
+      last_by_id_and_neighbours<C>(),
+      near_id<C>(),
   };
   return table;
 }

@@ -1,5 +1,7 @@
 #include "brunvik/logistics/shipment_row.h"
 
+#include "brunvik/billframe/bill_members.h"
+
 namespace brunvik {
 
 const Members& ShipmentRow::table() {
@@ -9,13 +11,7 @@ const Members& ShipmentRow::table() {
       property<&C::Rownum>("Rownum", "Rownum"),
       property<&C::Gstutas>("Gstutas", "Gstutas"),
       property<&C::Businessclass>("Businessclass", "Businessclass"),
-      property<&C::Gid>("Gid", "Gid"),
-      property<&C::Gbarcode>("Gbarcode", "Gbarcode"),
-      property<&C::Gname>("Gname", "Gname"),
-      property<&C::Class>("Class", "Class"),
-      property<&C::Model1>("Model1", "Model1"),
-      property<&C::Model2>("Model2", "Model2"),
-      property<&C::Unit>("Unit", "Unit"),
+      goods_names<C>(),
       property<&C::Qty>("Qty", "Qty"),
       property<&C::Price>("Price", "Price"),
       property<&C::Amount>("Amount", "Amount"),

@@ -2,8 +2,8 @@
 
 #include <utility>
 
+#include "brunvik/billframe/bill_members.h"
 #include "brunvik/foundation/error_trap.h"
-#include "brunvik/foundation/late_binding.h"
 #include "brunvik/purchasing/purchase_receipt.h"
 
 namespace brunvik {
@@ -50,7 +50,7 @@ const Members& ClsAdjustInBill::members() const {
       verb<&C::LoadNext>("LoadNext"),
       verb<&C::LoadPreviou>("LoadPreviou"),
       verb<&C::LoadById>("LoadById", in_out("BID")),
-      verb<&C::GetNearId>("GetNearId", in("CurBillID"), out("NearBillID"), optional(in("NextPreviousId"), false)),
+      near_id<C>(),
       verb<&C::Audit>("Audit"),
       verb<&C::UndoAudit>("UndoAudit"),
   };

@@ -1,8 +1,8 @@
 #include "brunvik/purchasing/purchase_receipt.h"
 
+#include "brunvik/billframe/bill_members.h"
 #include "brunvik/foundation/ConnOPT_Function.h"
 #include "brunvik/foundation/error_trap.h"
-#include "brunvik/foundation/late_binding.h"
 #include "brunvik/foundation/sql_text.h"
 #include "brunvik/settlement/advance.h"
 #include "brunvik/settlement/pay_bill.h"
@@ -68,7 +68,7 @@ Members PurchaseReceipt::receipt_members(const Kind& kind) {
       verb<&C::LoadNext>("LoadNext"),
       verb<&C::LoadPreviou>("LoadPreviou"),
       verb<&C::LoadById>("LoadById", in_out("BID"), optional(in("lRowNum"), Long{-1}), optional(in("bDHBJ"), false)),
-      verb<&C::GetNearId>("GetNearId", in("CurBillID"), out("NearBillID"), optional(in("NextPreviousId"), false)),
+      near_id<C>(),
       verb<&C::Audit>("Audit", optional(in_out("bJKC"), false)),
       verb<&C::UndoAudit>("UndoAudit", optional(in_out("bJKC"), false)),
   };

@@ -1,7 +1,7 @@
 #include "brunvik/purchasing/purchase_return.h"
 
+#include "brunvik/billframe/bill_members.h"
 #include "brunvik/foundation/error_trap.h"
-#include "brunvik/foundation/late_binding.h"
 #include "brunvik/settlement/pay_bill.h"
 
 namespace brunvik {
@@ -35,12 +35,8 @@ const Members& PurchaseReturn::table() {
       verb<&C::SaveAsDraft>("SaveAsDraft"),
       verb<&C::GetNewId>("GetNewId", out("BID")),
       verb<&C::Delete>("Delete"),
-      verb<&C::LoadLast>("LoadLast"),
-      verb<&C::GetLastId>("GetLastId", out("LastId")),
-      verb<&C::LoadById>("LoadById", in_out("BID")),
-      verb<&C::LoadNext>("LoadNext"),
-      verb<&C::LoadPreviou>("LoadPreviou"),
-      verb<&C::GetNearId>("GetNearId", in("CurBillID"), out("NearBillID"), optional(in("NextPreviousId"), false)),
+      last_by_id_and_neighbours<C>(),
+      near_id<C>(),
       verb<&C::Audit>("Audit"),
       verb<&C::UndoAudit>("UndoAudit"),
   };

@@ -1,6 +1,6 @@
 #include "brunvik/sales/sales_return.h"
 
-#include "brunvik/foundation/late_binding.h"
+#include "brunvik/billframe/bill_members.h"
 
 namespace brunvik {
 
@@ -42,7 +42,7 @@ Members SalesReturn::return_members(const Kind& kind, MemberGroup audit) {
       verb<&C::LoadPreviou>("LoadPreviou"),
       verb<&C::GetNewId>("GetNewId", out("BID")),
       verb<&C::LoadById>("LoadById", in_out("BID")),
-      verb<&C::GetNearId>("GetNearId", in("CurBillID"), out("NearBillID"), optional(in("NextPreviousId"), false)),
+      near_id<C>(),
       std::move(audit),
   };
 }

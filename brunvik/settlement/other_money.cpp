@@ -2,10 +2,10 @@
 
 #include <utility>
 
+#include "brunvik/billframe/bill_members.h"
 #include "brunvik/foundation/Declare_Const.h"
 #include "brunvik/foundation/GetValue_Function.h"
 #include "brunvik/foundation/error_trap.h"
-#include "brunvik/foundation/late_binding.h"
 #include "brunvik/settlement/pay_bill.h"
 #include "brunvik/settlement/receipt_bill.h"
 
@@ -61,11 +61,7 @@ const Members& OtherMoneyDocument::table() {
       verb<&C::Delete>("Delete"),
       verb<&C::UpdateAudited>("UpdateAudited"),
       verb<&C::CancelAudited>("CancelAudited"),
-      verb<&C::LoadLast>("LoadLast"),
-      verb<&C::LoadNext>("LoadNext"),
-      verb<&C::LoadPreviou>("LoadPreviou"),
-      verb<&C::GetLastId>("GetLastId", out("LastId")),
-      verb<&C::GetNearId>("GetNearId", in("CurBillID"), out("NearBillID"), optional(in("NextPreviousId"), false)),
+      walk<C>(),
   };
   return table;
 }

@@ -1,8 +1,8 @@
 #include "brunvik/warehouse/assembly.h"
 
+#include "brunvik/billframe/bill_members.h"
 #include "brunvik/foundation/ConnOPT_Function.h"
 #include "brunvik/foundation/error_trap.h"
-#include "brunvik/foundation/late_binding.h"
 #include "brunvik/stock/StockPoster.h"
 #include "brunvik/stock/moving_average_cost.h"
 #include "brunvik/stock/zero_cost_issues.h"
@@ -43,13 +43,7 @@ const Members& AssemblyDocument::table() {
       property<&C::Summary>("Summary", "Summary"),
       property<&C::Remarks>("Remarks", "Remarks"),
       property<&C::Inoutflag>("Inoutflag", "InOutFlag"),
-      property<&C::Gid>("Gid", "Gid"),
-      property<&C::Gbarcode>("Gbarcode", "Gbarcode"),
-      property<&C::Gname>("Gname", "Gname"),
-      property<&C::Class>("Class", "Class"),
-      property<&C::Model1>("Model1", "Model1"),
-      property<&C::Model2>("Model2", "Model2"),
-      property<&C::Unit>("Unit", "Unit"),
+      goods_names<C>(),
       property<&C::Actualqty>("Actualqty", "Actualqty"),
       property<&C::price>("price", "Price"),
       property<&C::Amount>("Amount", "Amount"),
@@ -66,7 +60,7 @@ const Members& AssemblyDocument::table() {
       verb<&C::LoadNext>("LoadNext"),
       verb<&C::LoadPreviou>("LoadPreviou"),
       verb<&C::GetNewId>("GetNewId", out("BID")),
-      verb<&C::GetNearId>("GetNearId", in("CurBillID"), out("NearBillID"), optional(in("NextPreviousId"), false)),
+      near_id<C>(),
       verb<&C::Audit>("Audit"),
       verb<&C::UndoAudit>("UndoAudit"),
   };

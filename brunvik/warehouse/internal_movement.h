@@ -5,7 +5,7 @@
 #include <string_view>
 #include <utility>
 
-#include "brunvik/foundation/late_binding.h"
+#include "brunvik/billframe/bill_members.h"
 #include "brunvik/stock/posting_document.h"
 
 namespace brunvik {
@@ -45,18 +45,6 @@ class InternalMovement : public PostingDocument {
         property<&C::Summary>("Summary", "Summary"),
         property<&C::Remarks>("Remarks", "Remarks"),
         std::move(verbs),
-    };
-  }
-
-  // The walk from number to number, which stands at the end of both tables.
-  template <class C>
-  static MemberGroup walk() {
-    return {
-        verb<&C::LoadLast>("LoadLast"),
-        verb<&C::LoadNext>("LoadNext"),
-        verb<&C::LoadPreviou>("LoadPreviou"),
-        verb<&C::GetLastId>("GetLastId", out("LastId")),
-        verb<&C::GetNearId>("GetNearId", in("CurBillID"), out("NearBillID"), optional(in("NextPreviousId"), false)),
     };
   }
 };

@@ -1,7 +1,7 @@
 // The member table of the warehouse documents.
 #pragma once
 
-#include "brunvik/foundation/late_binding.h"
+#include "brunvik/billframe/bill_members.h"
 
 namespace brunvik {
 
@@ -39,20 +39,11 @@ Members warehouse_members(OwnMembers own) {
       verb<&C::SaveAsDraft>("SaveAsDraft"),
       std::move(own.behind_saving),
       verb<&C::Delete>("Delete"),
-      verb<&C::LoadLast>("LoadLast"),
-      verb<&C::GetLastId>("GetLastId", out("LastId")),
-      verb<&C::LoadById>("LoadById", in_out("BID")),
-      verb<&C::LoadNext>("LoadNext"),
-      verb<&C::LoadPreviou>("LoadPreviou"),
+      last_by_id_and_neighbours<C>(),
       verb<&C::GetNewId>("GetNewId", out("BID")),
       std::move(own.behind_number),
       std::move(own.audit),
   };
-}
-
-template <class C>
-Member near_id() {
-  return verb<&C::GetNearId>("GetNearId", in("CurBillID"), out("NearBillID"), optional(in("NextPreviousId"), false));
 }
 
 }  // namespace brunvik
