@@ -3,6 +3,7 @@
 #include <thread>
 
 #include "tests/support/driver_books.h"
+#include "tests/support/transaction_scene.h"
 
 namespace brunvik::test {
 namespace {
@@ -10,22 +11,7 @@ namespace {
 namespace error = ado::error;
 using namespace std::chrono_literals;
 
-constexpr std::string_view one_warehouse = "insert into Warehouse(Id,WName) values('W1','东仓')";
-
-class DriverTransactions : public DriverBooks {
- protected:
-  Long warehouses() { return count("select count(*) from Warehouse"); }
-
-  Long begin() {
-    return failure_of([&] { books->BeginTrans(); }).number();
-  }
-  Long commit() {
-    return failure_of([&] { books->CommitTrans(); }).number();
-  }
-  Long roll_back() {
-    return failure_of([&] { books->RollbackTrans(); }).number();
-  }
-};
+class DriverTransactions : public TransactionScene<DriverBooks> {};
 
 TEST_P(DriverTransactions, What_was_done_is_kept_at_the_commit_and_seen_by_others_from_then_on) {
   const auto other = place->open();

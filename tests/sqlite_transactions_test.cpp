@@ -5,44 +5,18 @@
 #include <thread>
 
 #include "tests/sqlite_books.h"
+#include "tests/support/transaction_scene.h"
 
 namespace brunvik::sqlite {
 namespace {
 
 namespace error = ado::error;
 using namespace std::chrono_literals;
+using test::failure_of;
+using test::holds;
 
-constexpr std::string_view one_warehouse = "insert into Warehouse(Id,WName) values('W1','东仓')";
-
-// The error that a call ends with; of number 0 without one.
-template <class Call>
-ado::RuntimeError failure_of(Call&& call) {
-  try {
-    call();
-  } catch (const ado::RuntimeError& failure) {
-    return failure;
-  }
-  return ado::RuntimeError(0, "nothing failed");
-}
-
-bool holds(const ado::RuntimeError& failure, std::string_view text) {
-  return failure.description().find(text) != std::string::npos;
-}
-
-class SqliteTransactions : public SqliteBooks {
+class SqliteTransactions : public test::TransactionScene<SqliteBooks> {
  protected:
-  Long warehouses() { return count("select count(*) from Warehouse"); }
-
-  Long begin() {
-    return failure_of([&] { books->BeginTrans(); }).number();
-  }
-  Long commit() {
-    return failure_of([&] { books->CommitTrans(); }).number();
-  }
-  Long roll_back() {
-    return failure_of([&] { books->RollbackTrans(); }).number();
-  }
-
   // A write that needs more pages than the disk has left. It changes one record, so the engine keeps no way back but
   // the way back of the whole transaction.
   Long fill_the_disk() {

@@ -72,11 +72,6 @@ std::vector<DriverEngine> mariadb_alone() {
 
 DriverBooks::DriverBooks() { test::lay(*books, GetParam().engine, small_tables()); }
 
-ado::Value DriverBooks::value(std::string_view statement) {
-  const ado::Recordset set = books->Execute(statement);
-  return set.at_end() ? ado::Value() : set.value(ado::Column{0});
-}
-
 void DriverBooks::lay(const schema::Table& table) { test::lay(*books, GetParam().engine, {&table, 1}); }
 
 void DriverBooks::expect_refused(std::string_view statement, std::string_view reason) {
@@ -87,14 +82,6 @@ void DriverBooks::expect_refused(std::string_view statement, std::string_view re
 }
 
 void DriverBooks::expect_taken(std::string_view statement) { EXPECT_EQ(error_of(*books, statement), 0) << statement; }
-
-Long error_of(ado::Connection& connection, std::string_view statement) {
-  const auto failure = failure_of([&] { connection.Execute(statement); });
-  if (failure.number() == 0) return 0;
-  EXPECT_FALSE(failure.description().empty());
-  EXPECT_EQ(failure.statement(), statement);
-  return failure.number();
-}
 
 std::string literal_of(std::string_view text) {
   std::string literal = "'";

@@ -10,9 +10,10 @@
 #include <vector>
 
 #include "brunvik/ado/connection.h"
-#include "brunvik/ado/errors.h"
 #include "schema/ddl.h"
 #include "schema/tables.h"
+#include "tests/support/asked_books.h"
+#include "tests/support/failures.h"
 
 namespace brunvik::test {
 
@@ -49,16 +50,11 @@ std::vector<DriverEngine> mariadb_alone();
 // The last part of a test's name.
 inline const auto by_engine = [](const auto& info) { return info.param.name; };
 
-class DriverBooks : public ::testing::TestWithParam<DriverEngine> {
+class DriverBooks : public ::testing::TestWithParam<DriverEngine>, protected AskedBooks {
  protected:
   DriverBooks();
 
-  ado::Recordset run(std::string_view statement) { return books->Execute(statement); }
-
-  // The first value of the first record.
-  ado::Value value(std::string_view statement);
-  std::string text(std::string_view statement) { return value(statement).joined_text(); }
-  Long count(std::string_view statement) { return value(statement).as_long(); }
+  ado::Connection& asked() override { return *books; }
 
   // How many of these shapes the connection keeps.
   std::size_t cached_statements() const { return place->cached_statements(*books); }
@@ -72,24 +68,6 @@ class DriverBooks : public ::testing::TestWithParam<DriverEngine> {
   std::unique_ptr<BookPlace> place = GetParam().place();
   std::shared_ptr<ado::Connection> books = place->open();
 };
-
-// The error that a call ends with; of number 0 without one.
-template <class Call>
-ado::RuntimeError failure_of(Call&& call) {
-  try {
-    call();
-  } catch (const ado::RuntimeError& failure) {
-    return failure;
-  }
-  return ado::RuntimeError(0, "nothing failed");
-}
-
-// The number of the error that a statement ends with, 0 without one.
-Long error_of(ado::Connection& connection, std::string_view statement);
-
-inline bool holds(const ado::RuntimeError& failure, std::string_view text) {
-  return failure.description().find(text) != std::string::npos;
-}
 
 // A text as a literal of a statement.
 std::string literal_of(std::string_view text);
