@@ -259,8 +259,12 @@ void complete_arguments(const std::vector<Parameter>& parameters, std::vector<Va
   }
 }
 
-Members::Members(std::initializer_list<Entry> entries) : number_(next_number()) {
-  for (const Entry& entry : entries) members_.insert(members_.end(), entry.members_.begin(), entry.members_.end());
+Members::Members(std::initializer_list<Entry> entries) : members_(group(entries)), number_(next_number()) {}
+
+MemberGroup Members::group(std::initializer_list<Entry> entries) {
+  MemberGroup members;
+  for (const Entry& entry : entries) members.insert(members.end(), entry.members_.begin(), entry.members_.end());
+  return members;
 }
 
 const Member& Members::named(std::string_view name) const {

@@ -179,6 +179,9 @@ class Members {
 
   Members(std::initializer_list<Entry> entries);
 
+  // A group of members and of other groups.
+  static MemberGroup group(std::initializer_list<Entry> entries);
+
   // By name without regard to case; error 438 where there is none.
   const Member& named(std::string_view name) const;
 

@@ -37,11 +37,7 @@ const Members& clsSendGoodsVouchersbill::members() const {
       property<&C::Sxfbl>("Sxfbl", "Sxfbl"),
       property<&C::Sxfzd>("Sxfzd", "Sxfzd"),
       property<&C::Dszh>("Dszh", "Dszh"),
-      verb<&C::Save>("Save"),
-      verb<&C::SaveAsDraft>("SaveAsDraft"),
-      voucher_reading<C>(),
-      verb<&C::GetNewId>("GetNewId", out("BID")),
-      voucher_audit<C>(),
+      advance_verbs<C>(),
   };
   return table;
 }

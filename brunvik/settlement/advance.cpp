@@ -31,11 +31,7 @@ const Members& Advance::table() {
       property<&C::Summary>("Summary", "Summary"),
       computed<&C::DiscountAmount>("DiscountAmount"),
       property<&C::Remarks>("Remarks", "Remarks"),
-      verb<&C::Save>("Save"),
-      verb<&C::SaveAsDraft>("SaveAsDraft"),
-      voucher_reading<C>(),
-      verb<&C::GetNewId>("GetNewId", out("BID")),
-      voucher_audit<C>(),
+      advance_verbs<C>(),
   };
   return table;
 }

@@ -51,4 +51,16 @@ MemberGroup voucher_audit() {
   };
 }
 
+// The verbs of an advance and of a freight settlement.
+template <class C>
+MemberGroup advance_verbs() {
+  return Members::group({
+      verb<&C::Save>("Save"),
+      verb<&C::SaveAsDraft>("SaveAsDraft"),
+      voucher_reading<C>(),
+      verb<&C::GetNewId>("GetNewId", out("BID")),
+      voucher_audit<C>(),
+  });
+}
+
 }  // namespace brunvik

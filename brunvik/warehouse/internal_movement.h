@@ -26,7 +26,8 @@ class InternalMovement : public PostingDocument {
   // names them.
   static DocumentForm movement_form(const Kind& kind, const Members& members, std::string_view managers);
 
-  // The two ends of the movement stand between the numbers and the creation, under the names of the document.
+  // The two ends of the movement stand between the numbers and the creation, under the names of the document; the walk
+  // stands behind its verbs.
   template <class C>
   static Members movement_members(MemberGroup ends, MemberGroup verbs) {
     return {
@@ -45,6 +46,7 @@ class InternalMovement : public PostingDocument {
         property<&C::Summary>("Summary", "Summary"),
         property<&C::Remarks>("Remarks", "Remarks"),
         std::move(verbs),
+        walk<C>(),
     };
   }
 };

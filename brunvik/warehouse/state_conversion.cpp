@@ -30,19 +30,11 @@ Operation<StockRow> stored_conversion(const StockPoster& stock, const std::strin
 
 const Members& clsGoodsConvertBill::members() const {
   using C = clsGoodsConvertBill;
-  static const Members table = [] {
-    MemberGroup verbs{
-        verb<&C::Save>("Save"),
-        verb<&C::Delete>("Delete"),
-        verb<&C::GetNewId>("GetNewId", out("BID")),
-        verb<&C::LoadById>("LoadById", in_out("BID")),
-    };
-    for (Member& each : walk<C>()) verbs.push_back(std::move(each));
-    return movement_members<C>(
-        {property<&C::OldWareHouse>("OldWareHouse", "Supplier"), property<&C::NewWareHouse>("NewWareHouse", "Receiver"),
-         property<&C::OldStatus>("OldStatus", "SManager"), property<&C::NewStatus>("NewStatus", "RManager")},
-        std::move(verbs));
-  }();
+  static const Members table = movement_members<C>(
+      {property<&C::OldWareHouse>("OldWareHouse", "Supplier"), property<&C::NewWareHouse>("NewWareHouse", "Receiver"),
+       property<&C::OldStatus>("OldStatus", "SManager"), property<&C::NewStatus>("NewStatus", "RManager")},
+      {verb<&C::Save>("Save"), verb<&C::Delete>("Delete"), verb<&C::GetNewId>("GetNewId", out("BID")),
+       verb<&C::LoadById>("LoadById", in_out("BID"))});
   return table;
 }
 

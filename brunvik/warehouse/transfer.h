@@ -20,7 +20,7 @@ class WarehouseTransfer : public InternalMovement {
  protected:
   template <class C>
   static Members transfer_members(MemberGroup behind_audit = {}) {
-    MemberGroup verbs{
+    MemberGroup verbs = Members::group({
         verb<&C::Save>("Save"),
         verb<&C::SaveAsDraft>("SaveAsDraft"),
         verb<&C::GetNewId>("GetNewId", out("BID")),
@@ -28,9 +28,8 @@ class WarehouseTransfer : public InternalMovement {
         verb<&C::Delete>("Delete"),
         verb<&C::UpdateAudited>("UpdateAudited"),
         verb<&C::CancelAudited>("CancelAudited"),
-    };
-    for (Member& each : behind_audit) verbs.push_back(std::move(each));
-    for (Member& each : walk<C>()) verbs.push_back(std::move(each));
+        std::move(behind_audit),
+    });
     return movement_members<C>(
         {property<&C::Supplier>("Supplier", "Supplier"), property<&C::Receiver>("Receiver", "Receiver"),
          property<&C::SManager>("SManager", "SManager"), property<&C::RManager>("RManager", "RManager")},
