@@ -23,6 +23,17 @@ MemberGroup last_by_id_and_neighbours() {
   };
 }
 
+// A bill by its number, the last one, and its neighbours.
+template <class C>
+MemberGroup by_id_last_and_neighbours() {
+  return {
+      verb<&C::LoadById>("LoadById", in_out("BID")),
+      verb<&C::LoadLast>("LoadLast"),
+      verb<&C::LoadNext>("LoadNext"),
+      verb<&C::LoadPreviou>("LoadPreviou"),
+  };
+}
+
 // The walk from number to number.
 template <class C>
 MemberGroup walk() {

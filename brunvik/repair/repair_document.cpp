@@ -4,10 +4,10 @@
 #include <utility>
 
 #include "brunvik/ado/names.h"
+#include "brunvik/billframe/bill_members.h"
 #include "brunvik/foundation/Declare_Const.h"
 #include "brunvik/foundation/GetValue_Function.h"
 #include "brunvik/foundation/error_trap.h"
-#include "brunvik/foundation/late_binding.h"
 #include "brunvik/stock/StockPoster.h"
 
 namespace brunvik {
@@ -44,10 +44,7 @@ Members RepairDocument::repair_members(OwnMembers own) {
       verb<&C::Save>("Save"),
       verb<&C::SaveAsDraft>("SaveAsDraft"),
       verb<&C::Delete>("Delete"),
-      verb<&C::LoadById>("LoadById", in_out("BID")),
-      verb<&C::LoadLast>("LoadLast"),
-      verb<&C::LoadNext>("LoadNext"),
-      verb<&C::LoadPreviou>("LoadPreviou"),
+      by_id_last_and_neighbours<C>(),
       verb<&C::GetNewId>("GetNewId", out("BID")),
       verb<&C::GetPreviousId>("GetPreviousId", in("CurBillID"), out("PreviousId")),
       verb<&C::GetLastId>("GetLastId", out("LastId")),

@@ -1,8 +1,8 @@
 #include "brunvik/repair/service_ticket.h"
 
+#include "brunvik/billframe/bill_members.h"
 #include "brunvik/billframe/bill_number.h"
 #include "brunvik/foundation/error_trap.h"
-#include "brunvik/foundation/late_binding.h"
 #include "brunvik/foundation/sql_text.h"
 
 namespace brunvik {
@@ -53,6 +53,16 @@ Long ServiceTicket::GetPreviousId(const std::string& CurBillID, std::string& Pre
 
 Long ServiceTicket::GetNextId(const std::string& CurBillID, std::string& NextId) noexcept {
   return neighbour_in_series(CurBillID, NextId, true, {});
+}
+
+MemberGroup ServiceTicket::neighbour_numbers() {
+  using C = ServiceTicket;
+  return {
+      verb<&C::GetPreviousId>("GetPreviousId", in("CurBillID"), out("PreviousId")),
+      verb<&C::GetFirstId>("GetFirstId", out("FirstId")),
+      verb<&C::GetLastId>("GetLastId", out("LastId")),
+      verb<&C::GetNextId>("GetNextId", in("CurBillID"), out("NextId")),
+  };
 }
 
 MemberGroup RequestedTicket::properties(std::string_view borrow_column) {
@@ -116,17 +126,8 @@ MemberGroup RequestedTicket::properties(std::string_view borrow_column) {
 
 MemberGroup RequestedTicket::walking_verbs() {
   using C = RequestedTicket;
-  return {
-      verb<&C::LoadById>("LoadById", in_out("BID")),
-      verb<&C::LoadLast>("LoadLast"),
-      verb<&C::LoadNext>("LoadNext"),
-      verb<&C::LoadPreviou>("LoadPreviou"),
-      verb<&C::GetNewId>("GetNewId", out("BID")),
-      verb<&C::GetPreviousId>("GetPreviousId", in("CurBillID"), out("PreviousId")),
-      verb<&C::GetFirstId>("GetFirstId", out("FirstId")),
-      verb<&C::GetLastId>("GetLastId", out("LastId")),
-      verb<&C::GetNextId>("GetNextId", in("CurBillID"), out("NextId")),
-  };
+  return Members::group(
+      {by_id_last_and_neighbours<C>(), verb<&C::GetNewId>("GetNewId", out("BID")), neighbour_numbers()});
 }
 
 void RequestedTicket::save_header(Saving) {

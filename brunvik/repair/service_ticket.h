@@ -40,6 +40,9 @@ class ServiceTicket : public Bill {
   Long Delete() noexcept;
 
  protected:
+  // The verbs that tell the numbers beside one, the first and the last, as they stand in every ticket's table.
+  static MemberGroup neighbour_numbers();
+
   // Which tickets a walk meets: a condition that stands in front of the number, with its "and ", and one behind it.
   struct Walked {
     std::string_view before;

@@ -1,7 +1,7 @@
 #include "brunvik/repair/ticket_closing.h"
 
+#include "brunvik/billframe/bill_members.h"
 #include "brunvik/foundation/error_trap.h"
-#include "brunvik/foundation/late_binding.h"
 #include "brunvik/foundation/sql_text.h"
 
 namespace brunvik {
@@ -39,14 +39,8 @@ const Members& clsAfterServiceWGBill::members() const {
       property<&C::Status>("Status", "Status"),
       verb<&C::Delete>("Delete"),
       verb<&C::Save>("Save"),
-      verb<&C::LoadById>("LoadById", in_out("BID")),
-      verb<&C::LoadLast>("LoadLast"),
-      verb<&C::LoadNext>("LoadNext"),
-      verb<&C::LoadPreviou>("LoadPreviou"),
-      verb<&C::GetPreviousId>("GetPreviousId", in("CurBillID"), out("PreviousId")),
-      verb<&C::GetFirstId>("GetFirstId", out("FirstId")),
-      verb<&C::GetLastId>("GetLastId", out("LastId")),
-      verb<&C::GetNextId>("GetNextId", in("CurBillID"), out("NextId")),
+      by_id_last_and_neighbours<C>(),
+      neighbour_numbers(),
   };
   return table;
 }
