@@ -48,6 +48,17 @@ TEST_P(DriverShapes, A_failed_statement_leaves_its_shape_usable) {
   EXPECT_EQ(count("select count(*) from Warehouse"), 2);
 }
 
+TEST_P(DriverShapes, A_text_of_any_length_follows_one_of_any_length) {
+  int number = 0;
+  for (const std::size_t length : {3U, 0U, 64U, 65U, 1'023U, 1'024U, 1'025U, 3U, 4'096U, 4'097U, 300'000U, 2U, 0U}) {
+    const std::string id = "'W" + std::to_string(++number) + "'";
+    const std::string name = std::string(length, 'x');
+    run("insert into Warehouse(Id,WName) values(" + id + ",'" + name + "')");
+    EXPECT_TRUE(text("select WName from Warehouse where Id=" + id) == name) << length;
+  }
+  EXPECT_EQ(run("select WName from Warehouse").record_count(), 13U);
+}
+
 TEST_P(DriverShapes, They_are_bounded) {
   const auto few = place->open_with(3);
   for (int day = 10; day < 30; ++day) {

@@ -99,6 +99,39 @@ TEST_P(MariaDbOwnMeanings, What_the_engine_cannot_do_is_refused_in_its_words) {
   }
 }
 
+TEST_P(MariaDbOwnMeanings, A_statement_is_prepared_with_its_first_use_and_kept_for_the_next) {
+  const auto read = [this] {
+    return std::stoi(run("show session status like 'Com_stmt_prepare'").value("Value").joined_text());
+  };
+  const auto prepared_by = [&](const std::string& statement) {
+    const int before = read();
+    run(statement);
+    constexpr int by_reading = 1;
+    return read() - before - by_reading;
+  };
+  run("delete from Warehouse where Id='W1'");  // the driver knows the table from here
+  EXPECT_EQ(prepared_by("insert into Warehouse(Id,WName) values('W1','东仓')"), 1);
+  EXPECT_EQ(prepared_by("insert into Warehouse(Id,WName) values('W2','西仓')"), 0);
+  EXPECT_EQ(prepared_by("select * from Warehouse where Id='W1'"), 1);
+  EXPECT_EQ(prepared_by("select * from Warehouse where Id='W2'"), 0);
+}
+
+// It is none that asks for an argument: that would end the process.
+TEST_P(MariaDbOwnMeanings, A_percent_sign_in_the_text_of_an_error_is_a_percent_sign) {
+  for (const char* statement : {"select [%s%n] from ZHXX where ID='a'", "select [%s%n] from ZHXX where clng('1')=1",
+                                "show create table `%s%n`"}) {
+    const auto failure = failure_of([&] { run(statement); });
+    EXPECT_NE(failure.number(), 0) << statement;
+    EXPECT_TRUE(holds(failure, "%s%n")) << failure.description();
+  }
+}
+
+TEST_P(MariaDbOwnMeanings, A_value_that_is_converted_stands_there_as_often_as_it_must) {
+  run("insert into ZHXX(ID) values('A1')");
+  EXPECT_EQ(count("select count(*) from ZHXX where convert(int,'12')=12"), 1);
+  EXPECT_EQ(count("select count(*) from ZHXX where clng(12)=12 and ID='A1'"), 1);
+}
+
 // They would change what the driver has settled with the server behind its back.
 TEST_P(MariaDbOwnMeanings, Transactions_and_settings_are_no_texts) {
   for (const char* statement : {"begin", "COMMIT", " rollback", "start transaction", "savepoint x", "set autocommit=0",

@@ -60,8 +60,7 @@ TEST(OdbcRewriting, Two_minus_signs_open_no_comment) {
 
 TEST(OdbcRewriting, A_quantity_that_is_worked_out_is_rounded_and_one_that_is_given_is_not) {
   const std::string text = rewritten("update Inventory set CurrentQty=CurrentQty-1.5 where GId='G1'");
-  EXPECT_TRUE(
-      text.starts_with("update Inventory set CurrentQty=(CASE WHEN (@brunvik_value:=CAST(CurrentQty-? AS FLOAT"))
+  EXPECT_TRUE(text.starts_with("update Inventory set CurrentQty=(CASE (@brunvik_value:=CAST(CurrentQty-? AS FLOAT"))
       << text;
   EXPECT_EQ(rewritten("update Inventory set CurrentQty=1.5 where GId='G1'"),
             "update Inventory set CurrentQty=? where GId=?");

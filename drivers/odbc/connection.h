@@ -41,8 +41,8 @@ struct Options {
   // How long the servers of the address are tried in turn for a connection in the place of a lost one.
   std::chrono::seconds reopen_timeout{10};
 
-  // How many shapes of statements are kept; at least one is. On MariaDB those that come again are kept prepared, and
-  // are among the statements that the server allows all connections together (max_prepared_stmt_count).
+  // How many shapes of statements are kept; at least one is. On MariaDB they are prepared, and among the
+  // statements that the server allows all connections together (max_prepared_stmt_count).
   std::size_t cached_statements = 128;
 
   // Names of tables. Of these a database must have one, or be empty; else it is that of another program and is refused

@@ -22,10 +22,17 @@ class Link {
   std::string engine_name() const;
   std::string engine_version() const;
 
+  // Whether the value of any column can be asked for, of one whose place is bound as well. Without that a driver gives
+  // them from the left to the right, and those that are bound stand in front.
+  bool gives_any_column() const noexcept { return gives_any_column_; }
+
   // A new statement, whose text goes to the engine unlooked at.
   Statement statement() const;
 
-  // Sends a text as it stands, and returns what it selects. Throws a Failure.
+  // Carries a text out as it stands. Throws a Failure.
+  void send(const Statement& statement, std::string_view text) const;
+
+  // The same with a statement of its own, and returns what it selects.
   ado::Recordset execute(std::string_view text) const;
 
  private:
@@ -33,6 +40,8 @@ class Link {
 
   Environment environment_;
   Database database_;
+  bool gives_any_column_ = false;
+  bool prepares_first_ = false;
 };
 
 }  // namespace brunvik::odbc

@@ -23,18 +23,18 @@ using dialects::TokenKind;
 constexpr std::string_view no_number = "(SELECT 1 UNION SELECT 2)";
 
 // The shortest decimal that names a single has six to nine digits. @brunvik_value is the single, @brunvik_decimal what
-// is tried; rounding to places gives the double nearest to the decimal. The engine works this out from left to right.
-// It makes the largest single of whatever lies beyond, so a number as large as that counts as too large.
-constexpr std::string_view single_begin = "(CASE WHEN (@brunvik_value:=CAST(";
+// is tried; the engine writes a single in six digits, and rounding to places gives the double nearest to the decimal.
+// It makes the largest single of whatever lies beyond, so a number as large as that counts as too large. Each word here
+// costs in each run, since the engine settles the types of them all anew, of those that it doesn't come to as well.
+constexpr std::string_view single_begin = "(CASE (@brunvik_value:=CAST(";
 constexpr std::string_view single_end =
-    " AS FLOAT))=0 THEN 0e0 WHEN @brunvik_value IS NULL THEN NULL"
-    " WHEN ABS(@brunvik_value)>=3.4028234663852886e38 THEN EXP(1000+ABS(@brunvik_value))"
-    " WHEN CAST((@brunvik_decimal:=ROUND(@brunvik_value,@brunvik_places:=5-FLOOR(LOG10(ABS(@brunvik_value)))))"
-    " AS FLOAT)=@brunvik_value THEN @brunvik_decimal"
-    " WHEN CAST((@brunvik_decimal:=ROUND(@brunvik_value,@brunvik_places+1)) AS FLOAT)=@brunvik_value"
+    " AS FLOAT)) WHEN CAST((@brunvik_decimal:=CAST(CAST(@brunvik_value AS FLOAT) AS CHAR)+0e0) AS FLOAT)"
     " THEN @brunvik_decimal"
-    " WHEN CAST((@brunvik_decimal:=ROUND(@brunvik_value,@brunvik_places+2)) AS FLOAT)=@brunvik_value"
-    " THEN @brunvik_decimal ELSE ROUND(@brunvik_value,@brunvik_places+3) END)";
+    " WHEN 3.4028234663852886e38 THEN EXP(@brunvik_value) WHEN -3.4028234663852886e38 THEN EXP(-@brunvik_value)"
+    " WHEN CAST((@brunvik_decimal:=ROUND(@brunvik_value,@brunvik_places:=6-FLOOR(LOG10(ABS(@brunvik_value)))))"
+    " AS FLOAT) THEN @brunvik_decimal"
+    " WHEN CAST((@brunvik_decimal:=ROUND(@brunvik_value,@brunvik_places+1)) AS FLOAT) THEN @brunvik_decimal"
+    " ELSE ROUND(@brunvik_value,@brunvik_places+2) END)";
 
 bool is_whole(std::string_view number) { return number.find_first_not_of("0123456789") == std::string_view::npos; }
 
@@ -148,17 +148,23 @@ class Rewriter final : public dialects::Rewriter {
   // makes of it.
   std::size_t whole_number(std::size_t name, std::size_t first, std::size_t closing, std::string_view rounding,
                            std::string_view of_empty) {
-    dialects::Writer outside = std::exchange(out_, {});
-    range(first, closing);
-    const std::string value = out_.take();
-    out_ = std::move(outside);
-    const std::string number = std::string(rounding) + "(" + value + ",0)";
-    out_.write("(CASE WHEN TRIM(" + value + ")='' THEN " + std::string(of_empty) + " WHEN " + value +
-                   " IS NULL THEN NULL WHEN NOT TRIM(" + value +
-                   ") REGEXP '^[-+]?([0-9]+[.]?[0-9]*|[.][0-9]+)$' THEN " + std::string(no_number) + " WHEN " + number +
-                   " NOT BETWEEN -2147483648 AND 2147483647 THEN CAST(EXP(1000+ABS(" + number +
-                   ")) AS SIGNED) ELSE CAST(" + number + " AS SIGNED) END)",
+    // Written anew at each place where it stands, since each of its values is one more value of the statement there.
+    const std::size_t values_before = text_.order.size();
+    const auto operand = [&] {
+      dialects::Writer outside = std::exchange(out_, {});
+      range(first, closing);
+      std::string text = out_.take();
+      out_ = std::move(outside);
+      return text;
+    };
+    const auto number = [&] { return std::string(rounding) + "(" + operand() + ",0)"; };
+    out_.write("(CASE WHEN TRIM(" + operand() + ")='' THEN " + std::string(of_empty) + " WHEN " + operand() +
+                   " IS NULL THEN NULL WHEN NOT TRIM(" + operand() +
+                   ") REGEXP '^[-+]?([0-9]+[.]?[0-9]*|[.][0-9]+)$' THEN " + std::string(no_number) + " WHEN " +
+                   number() + " NOT BETWEEN -2147483648 AND 2147483647 THEN CAST(EXP(1000+ABS(" + number() +
+                   ")) AS SIGNED) ELSE CAST(" + number() + " AS SIGNED) END)",
                tokens_[name].blank_before);
+    if (text_.order.size() > values_before) text_.has_to_stand_in_the_text = true;
     return closing + 1;
   }
 

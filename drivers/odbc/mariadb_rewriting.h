@@ -25,6 +25,9 @@ struct MariaDbText {
   std::vector<dialects::Target> targets;  // for each value of the statement
   dialects::Selection selection;
   bool is_selection = false;
+
+  // A value is compared with a text in the engine's words. Bound it would have another collation than that.
+  bool has_to_stand_in_the_text = false;
 };
 
 // `literals` are those that were cut out of the statement: a quotient of whole numbers is another operation than one

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cstdint>
 #include <utility>
 
+#include "drivers/dialects/memory.h"
 #include "drivers/odbc/failure.h"
 #include "drivers/odbc/literal.h"
 
@@ -44,39 +46,6 @@ bool ends_with_a_sign(std::string_view words) noexcept {
 
 bool is_a_numbers(Target target) noexcept { return target == Target::money || target == Target::single; }
 
-// What a statement holds while it is carried out.
-struct Bound {
-  std::string text;
-  std::int64_t number = 0;
-  SQLLEN length = 0;
-};
-
-void bind_text(const Statement& statement, SQLUSMALLINT number, std::string_view text, Bound& bound) {
-  bound.length = static_cast<SQLLEN>(text.size());
-  expect(SQLBindParameter(statement.get(), number, SQL_PARAM_INPUT, SQL_C_CHAR, SQL_VARCHAR,
-                          std::max<SQLULEN>(text.size(), 1), 0, as_characters(text), bound.length, &bound.length),
-         statement);
-}
-
-void bind(const Statement& statement, SQLUSMALLINT number, const Literal& literal, Target target, Bound& bound) {
-  if (literal.kind == LiteralKind::number) {
-    std::from_chars(literal.content.data(), literal.content.data() + literal.content.size(), bound.number);
-    expect(SQLBindParameter(statement.get(), number, SQL_PARAM_INPUT, SQL_C_SBIGINT, SQL_BIGINT, 0, 0, &bound.number, 0,
-                            &bound.length),
-           statement);
-    return;
-  }
-  std::string_view text = literal.content;
-  if (literal.has_apostrophes) {
-    bound.text = with_single_apostrophes(literal.content);
-    text = bound.text;
-  }
-  if (target == Target::key) {
-    while (text.ends_with(' ')) text.remove_suffix(1);
-  }
-  bind_text(statement, number, text, bound);
-}
-
 }  // namespace
 
 MariaDbShape::MariaDbShape(MariaDbText text) : text_(std::move(text)) {
@@ -85,11 +54,18 @@ MariaDbShape::MariaDbShape(MariaDbText text) : text_(std::move(text)) {
     const auto mark = std::find_if(rest.begin(), rest.end(), dialects::is_mark);
     const auto length = static_cast<std::size_t>(mark - rest.begin());
     const std::string_view words = rest.substr(0, length);
-    const bool is_number = is_a_numbers(text_.targets[value]) || dialects::kind_of_mark(*mark) == LiteralKind::number;
-    pieces_.push_back({std::string(words), value, !text_.is_selection && is_number && ends_with_a_sign(words)});
+    pieces_.push_back({std::string(words), value, road_of(value, *mark, words)});
     rest.remove_prefix(length + 1);
   }
   end_ = rest;
+}
+
+MariaDbShape::Road MariaDbShape::road_of(std::size_t value, char mark, std::string_view words) const noexcept {
+  const bool is_of_column = is_a_numbers(text_.targets[value]);
+  const bool is_number = dialects::kind_of_mark(mark) == LiteralKind::number;
+  if ((is_of_column || is_number) && !text_.is_selection && ends_with_a_sign(words)) return Road::decimal;
+  if (is_of_column) return Road::number;
+  return is_number ? Road::whole_number : Road::text;
 }
 
 std::size_t MariaDbShape::held_bytes() const noexcept {
@@ -98,48 +74,65 @@ std::size_t MariaDbShape::held_bytes() const noexcept {
   return 2 * text_.shape.size() + of_a_statement;
 }
 
-bool MariaDbShape::can_be_bound(const Piece& piece, const Literal& literal) const noexcept {
-  if (piece.is_decimal || is_a_numbers(text_.targets[piece.value])) return is_plain_decimal(literal.content);
-  return literal.kind != LiteralKind::number || is_bound_number(literal.content);
+bool MariaDbShape::can_be_bound(Road road, const Literal& literal) noexcept {
+  if (road == Road::text) return true;
+  return road == Road::whole_number ? is_bound_number(literal.content) : is_plain_decimal(literal.content);
 }
 
 bool MariaDbShape::can_be_bound(std::span<const Literal> literals) const noexcept {
   return std::all_of(pieces_.begin(), pieces_.end(),
-                     [&](const Piece& piece) { return can_be_bound(piece, literals[piece.value]); });
+                     [&](const Piece& piece) { return can_be_bound(piece.road, literals[piece.value]); });
 }
 
 ado::Recordset MariaDbShape::run(std::span<const Literal> literals, const Link& link, const Statement& direct,
                                  std::string_view statement) {
-  const bool is_worth_it = text_.is_selection || std::exchange(was_used_, true);
-  if (is_worth_it && can_be_bound(literals)) return run_prepared(literals, link, statement);
-  return run_direct(literals, direct, statement);
+  if (!text_.has_to_stand_in_the_text && can_be_bound(literals)) return run_prepared(literals, link, statement);
+  return run_direct(literals, link, direct, statement);
 }
 
 void MariaDbShape::prepare(const Link& link) {
   std::string text;
-  for (const Piece& piece : pieces_) text.append(piece.words).append(piece.is_decimal ? decimal_place : "?");
+  for (const Piece& piece : pieces_) text.append(piece.words).append(piece.road == Road::decimal ? decimal_place : "?");
   text += end_;
   Statement statement = link.statement();
   expect(SQLPrepare(statement.get(), as_characters(text), static_cast<SQLINTEGER>(text.size())), statement);
   prepared_ = std::move(statement);
+  parameters_.resize(pieces_.size());
+}
+
+void MariaDbShape::put_values(std::span<const Literal> literals, std::string_view statement) {
+  for (std::size_t place = 0; place < pieces_.size(); ++place) {
+    const Piece& piece = pieces_[place];
+    const Literal& literal = literals[piece.value];
+    Parameter& parameter = parameters_[place];
+    const auto number = static_cast<SQLUSMALLINT>(place + 1);
+    if (piece.road == Road::text) {
+      std::string_view text = literal.content;
+      std::string unescaped;
+      if (literal.has_apostrophes) text = unescaped = with_single_apostrophes(text);
+      if (text_.targets[piece.value] == Target::key) {
+        while (text.ends_with(' ')) text.remove_suffix(1);
+      }
+      parameter.put(text, prepared_, number);
+    } else if (piece.road == Road::whole_number) {
+      std::int64_t whole_number = 0;
+      std::from_chars(literal.content.data(), literal.content.data() + literal.content.size(), whole_number);
+      parameter.put(whole_number, prepared_, number);
+    } else {
+      std::string digits;
+      append_literal(digits, literal, text_.targets[piece.value], statement);
+      parameter.put(digits, prepared_, number);
+    }
+  }
 }
 
 ado::Recordset MariaDbShape::run_prepared(std::span<const Literal> literals, const Link& link,
                                           std::string_view statement) {
   if (!prepared_.get()) prepare(link);
-  std::vector<Bound> bound(pieces_.size());
-  for (std::size_t place = 0; place < pieces_.size(); ++place) {
-    const Piece& piece = pieces_[place];
-    const Literal& literal = literals[piece.value];
-    const Target target = text_.targets[piece.value];
-    const auto number = static_cast<SQLUSMALLINT>(place + 1);
-    if (piece.is_decimal || is_a_numbers(target)) {
-      append_literal(bound[place].text, literal, target, statement);
-      bind_text(prepared_, number, bound[place].text, bound[place]);
-    } else {
-      bind(prepared_, number, literal, target, bound[place]);
-    }
-  }
+  const dialects::AtEnd let_go([this]() noexcept {
+    for (Parameter& parameter : parameters_) parameter.let_go();
+  });
+  put_values(literals, statement);
   expect(SQLExecute(prepared_.get()), prepared_);
   if (!text_.is_selection) return {};
   // The tables may have got columns since, which a * selects, too.
@@ -148,12 +141,12 @@ ado::Recordset MariaDbShape::run_prepared(std::span<const Literal> literals, con
   if (columns_.empty() || columns_.front().count() != static_cast<std::size_t>(count)) {
     columns_.clear();
     SQLFreeStmt(prepared_.get(), SQL_UNBIND);
-    columns_.emplace_back(prepared_, text_.selection);
+    columns_.emplace_back(prepared_, text_.selection, link.gives_any_column());
   }
   return columns_.front().fetch(prepared_);
 }
 
-ado::Recordset MariaDbShape::run_direct(std::span<const Literal> literals, const Statement& direct,
+ado::Recordset MariaDbShape::run_direct(std::span<const Literal> literals, const Link& link, const Statement& direct,
                                         std::string_view statement) const {
   std::string text;
   text.reserve(statement.size() + text_.shape.size());
@@ -162,9 +155,9 @@ ado::Recordset MariaDbShape::run_direct(std::span<const Literal> literals, const
     append_literal(text, literals[piece.value], text_.targets[piece.value], statement);
   }
   text += end_;
-  expect(SQLExecDirect(direct.get(), as_characters(text), static_cast<SQLINTEGER>(text.size())), direct);
+  link.send(direct, text);
   if (!text_.is_selection) return {};
-  ResultColumns columns(direct, text_.selection);
+  ResultColumns columns(direct, text_.selection, link.gives_any_column());
   ado::Recordset result = columns.fetch(direct);
   SQLFreeStmt(direct.get(), SQL_UNBIND);
   return result;

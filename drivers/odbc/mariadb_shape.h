@@ -1,9 +1,8 @@
 // A shape of statements in MariaDB's words: takes the values of one statement of the shape and carries it out.
 //
-// A statement is kept prepared and its values are bound: the engine reads its text once. A SELECT is prepared at once,
-// what changes rows with its second use, for the first costs a way to the server more. A decimal that is bound would
-// become a double, so that a statement is sent as a text where the engine itself would reckon with one; behind a sign
-// of arithmetic its place is that of a decimal.
+// A statement is kept prepared with places for its values: the engine reads its text once. A decimal that is bound
+// would become a double, so that a value is written into the text where the engine itself would reckon with one; behind
+// a sign of arithmetic its place is that of a decimal.
 #pragma once
 
 #include <span>
@@ -14,6 +13,7 @@
 #include "brunvik/ado/recordset.h"
 #include "drivers/odbc/link.h"
 #include "drivers/odbc/mariadb_rewriting.h"
+#include "drivers/odbc/parameter.h"
 #include "drivers/odbc/result_columns.h"
 
 namespace brunvik::odbc {
@@ -32,25 +32,31 @@ class MariaDbShape {
                      std::string_view statement);
 
  private:
+  // What is bound for a value: a text, a whole number, the digits of a column's number, or the digits of one that the
+  // engine reckons with as a decimal.
+  enum class Road { text, whole_number, number, decimal };
+
   struct Piece {
     std::string words;
     std::size_t value;  // which stands behind the words
-    bool is_decimal;    // whatever number it is, the engine reckons with it as a decimal
+    Road road;
   };
 
+  Road road_of(std::size_t value, char mark, std::string_view words) const noexcept;
+  static bool can_be_bound(Road road, const dialects::Literal& literal) noexcept;
   bool can_be_bound(std::span<const dialects::Literal> literals) const noexcept;
-  bool can_be_bound(const Piece& piece, const dialects::Literal& literal) const noexcept;
   void prepare(const Link& link);
+  void put_values(std::span<const dialects::Literal> literals, std::string_view statement);
   ado::Recordset run_prepared(std::span<const dialects::Literal> literals, const Link& link,
                               std::string_view statement);
-  ado::Recordset run_direct(std::span<const dialects::Literal> literals, const Statement& direct,
+  ado::Recordset run_direct(std::span<const dialects::Literal> literals, const Link& link, const Statement& direct,
                             std::string_view statement) const;
 
   MariaDbText text_;
   std::vector<Piece> pieces_;
   std::string end_;
   Statement prepared_;
-  bool was_used_ = false;
+  std::vector<Parameter> parameters_;
   std::vector<ResultColumns> columns_;  // one, where it was prepared
 };
 

@@ -14,8 +14,9 @@ namespace brunvik::odbc {
 
 namespace {
 
-// Of a text, in bytes. A longer one is fetched piece by piece, so that its room isn't held for the next result.
+// Of a text, in bytes. The rest of a longer one is asked for, so that its room isn't held for the next result.
 constexpr SQLULEN longest_bound = 4'096;
+constexpr std::size_t room_without_bound = 1'024;
 
 // Its digits, the sign, the point and the end, and twice as many for another program's decimals.
 constexpr std::size_t room_of_amount = 80;
@@ -52,10 +53,10 @@ Number number_in(const std::vector<char>& place) {
   return number;
 }
 
-// A text without a bound. Nearly all are short, and come in one piece; what is left of a longer one comes at once.
+// The whole of a text that is longer than a place. What is left behind its beginning comes at once.
 std::string long_text(const Statement& statement, SQLUSMALLINT number, bool& is_null) {
   std::string text;
-  std::array<char, 1'024> front;
+  std::array<char, room_without_bound> front;
   char* room = front.data();
   std::size_t size = front.size();
   for (;;) {
@@ -94,7 +95,7 @@ ResultColumns::Column ResultColumns::described(const Statement& statement, SQLUS
          statement);
   name = told.data();
   const auto column = [](Kind kind, SQLSMALLINT form, std::size_t room) {
-    return Column{kind, form, false, std::vector<char>(room)};
+    return Column{kind, form, std::vector<char>(room)};
   };
   switch (type) {
     case SQL_BIT:
@@ -114,21 +115,24 @@ ResultColumns::Column ResultColumns::described(const Statement& statement, SQLUS
                     sizeof(double));
     default: {
       constexpr SQLULEN longest_character = 4;
-      const bool is_long = size == 0 || size > longest_bound / longest_character;
-      Column text = column(Kind::text, SQL_C_CHAR, is_long ? 0 : size * longest_character + 1);
-      text.is_long = is_long;
+      const bool has_no_bound = size == 0 || size > longest_bound / longest_character;
+      Column text = column(Kind::text, SQL_C_CHAR, has_no_bound ? room_without_bound : size * longest_character + 1);
+      text.has_no_bound = has_no_bound;
       return text;
     }
   }
 }
 
-ResultColumns::ResultColumns(const Statement& statement, const dialects::Selection& selection) {
+ResultColumns::ResultColumns(const Statement& statement, const dialects::Selection& selection, bool gives_any_column) {
   SQLSMALLINT count = 0;
   expect(SQLNumResultCols(statement.get(), &count), statement);
   std::vector<std::string> names;
+  bool are_bound = true;
   for (SQLSMALLINT place = 0; place < count; ++place) {
     std::string& name = names.emplace_back();
-    columns_.push_back(described(statement, static_cast<SQLUSMALLINT>(place + 1), name));
+    Column& column = columns_.emplace_back(described(statement, static_cast<SQLUSMALLINT>(place + 1), name));
+    are_bound = are_bound && (gives_any_column || !column.has_no_bound);
+    column.is_bound = are_bound;
     const auto* const written = selection.column(static_cast<std::size_t>(place), static_cast<std::size_t>(count));
     if (written && !written->name.empty()) name = written->name;
   }
@@ -140,7 +144,7 @@ void ResultColumns::bind(const Statement& statement) {
   SQLUSMALLINT number = 0;
   for (Column& column : columns_) {
     ++number;
-    if (column.is_long) continue;
+    if (!column.is_bound) continue;
     expect(SQLBindCol(statement.get(), number, column.form, column.place.data(),
                       static_cast<SQLLEN>(column.place.size()), &column.length),
            statement);
@@ -148,13 +152,20 @@ void ResultColumns::bind(const Statement& statement) {
   is_bound_ = true;
 }
 
-ado::Value ResultColumns::value(const Statement& statement, std::size_t place) const {
-  const Column& column = columns_[place];
-  if (column.is_long) {
+ado::Value ResultColumns::value(const Statement& statement, std::size_t place) {
+  Column& column = columns_[place];
+  const auto number = static_cast<SQLUSMALLINT>(place + 1);
+  const bool is_longer = column.length == SQL_NO_TOTAL || column.length >= static_cast<SQLLEN>(column.place.size());
+  if (column.has_no_bound && (!column.is_bound || is_longer)) {
     bool is_null = false;
-    std::string text = long_text(statement, static_cast<SQLUSMALLINT>(place + 1), is_null);
+    const std::string text = long_text(statement, number, is_null);
     if (is_null) return {ado::Null{}};
     return {std::string_view(text)};
+  }
+  if (!column.is_bound) {
+    expect(SQLGetData(statement.get(), number, column.form, column.place.data(),
+                      static_cast<SQLLEN>(column.place.size()), &column.length),
+           statement);
   }
   if (column.length == SQL_NULL_DATA) return {ado::Null{}};
   const std::string_view text(column.place.data(), static_cast<std::size_t>(column.length));

@@ -15,8 +15,8 @@ namespace brunvik::odbc {
 // that was stored; one that was worked out is a double.
 class ResultColumns {
  public:
-  // Of a statement that was carried out or prepared. Throws a Failure.
-  ResultColumns(const Statement& statement, const dialects::Selection& selection);
+  // Of a statement that was carried out or prepared, over a link that gives any column or doesn't. Throws a Failure.
+  ResultColumns(const Statement& statement, const dialects::Selection& selection, bool gives_any_column);
 
   bool empty() const noexcept { return columns_.empty(); }
   std::size_t count() const noexcept { return columns_.size(); }
@@ -30,15 +30,16 @@ class ResultColumns {
 
   struct Column {
     Kind kind;
-    SQLSMALLINT form;         // in which the value is fetched
-    bool is_long;             // a text without a bound, fetched piece by piece
-    std::vector<char> place;  // the current row's value
+    SQLSMALLINT form;           // in which the value is fetched
+    std::vector<char> place;    // the current row's value
+    bool has_no_bound = false;  // a text that may be longer than its place
+    bool is_bound = true;       // the value comes with its row; else it is asked for
     SQLLEN length = 0;
   };
 
   static Column described(const Statement& statement, SQLUSMALLINT number, std::string& name);
   void bind(const Statement& statement);
-  ado::Value value(const Statement& statement, std::size_t place) const;
+  ado::Value value(const Statement& statement, std::size_t place);
 
   std::shared_ptr<const ado::ColumnNames> names_;
   std::vector<Column> columns_;
