@@ -85,6 +85,20 @@ TEST_F(OdbcSqlServer, A_refusal_has_its_number_the_engine_s_text_and_the_stateme
   EXPECT_EQ(error_of(*books, "select * from ZHXX"), 0);
 }
 
+// Its driver gives no value in front of one that is bound, and none a second time.
+TEST_F(OdbcSqlServer, A_text_without_a_bound_is_read_with_the_columns_behind_it) {
+  auto rows = open(";ANSWER=select")->Execute("select Id,Remarks,Number,WName from StockBill");
+  ASSERT_EQ(rows.record_count(), 3U);
+  for (const char* number : {"1", "2", "3"}) {
+    const std::string end(3'000 * static_cast<std::size_t>(*number - '1'), 'x');
+    EXPECT_EQ(rows.value("Id").as_text(), std::string("B") + number);
+    EXPECT_TRUE(rows.value("Remarks").as_text() == number + end);
+    EXPECT_EQ(rows.value("Number"), ado::Value(Long{*number - '0'}));
+    EXPECT_EQ(rows.value("WName").as_text(), std::string("东仓") + number);
+    rows.MoveNext();
+  }
+}
+
 TEST_F(OdbcSqlServer, Any_other_engine_is_refused_with_the_names_of_those_that_work) {
   const auto failure = failure_of([&] { open(";ENGINE=Sheets"); });
   EXPECT_EQ(failure.number(), error::provider_failed);

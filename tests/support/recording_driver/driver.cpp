@@ -1,10 +1,11 @@
 // An ODBC driver for tests. It stands for an engine that nobody has here: it carries nothing out, writes down each text
-// that it is given, and selects nothing. In the connection string:
+// that it is given, and selects nothing but what it is told to. In the connection string:
 //
 //   DRIVER   the path of this library
 //   ENGINE   the name that it gives itself; Microsoft SQL Server if none is given
 //   RECORD   the file that it writes the texts to, a line each
 //   REFUSE   the beginning of the texts that it refuses
+//   ANSWER   the beginning of the texts that it answers with rows
 #include <sql.h>
 #include <sqlext.h>
 
@@ -14,17 +15,22 @@
 #include <string>
 #include <string_view>
 
+#include "tests/support/recording_driver/answer.h"
+
 namespace {
 
 struct Connection {
   std::string engine;
   std::string record;
   std::string refuse;
+  std::string answer;
 };
 
 struct Statement {
   const Connection* connection;
   bool is_refused = false;
+  bool is_answered = false;
+  brunvik::test::Answer answer{};
 };
 
 std::string attribute(std::string_view connection_string, std::string_view keyword) {
@@ -79,8 +85,43 @@ SQLRETURN SQL_API SQLSetEnvAttr(SQLHENV, SQLINTEGER, SQLPOINTER, SQLINTEGER) { r
 SQLRETURN SQL_API SQLSetConnectAttr(SQLHDBC, SQLINTEGER, SQLPOINTER, SQLINTEGER) { return SQL_SUCCESS; }
 SQLRETURN SQL_API SQLSetStmtAttr(SQLHSTMT, SQLINTEGER, SQLPOINTER, SQLINTEGER) { return SQL_SUCCESS; }
 SQLRETURN SQL_API SQLDisconnect(SQLHDBC) { return SQL_SUCCESS; }
-SQLRETURN SQL_API SQLFreeStmt(SQLHSTMT, SQLUSMALLINT) { return SQL_SUCCESS; }
-SQLRETURN SQL_API SQLFetch(SQLHSTMT) { return SQL_NO_DATA; }
+
+SQLRETURN SQL_API SQLFreeStmt(SQLHSTMT handle, SQLUSMALLINT what) {
+  auto& answer = static_cast<Statement*>(handle)->answer;
+  if (what == SQL_CLOSE) answer.close();
+  if (what == SQL_UNBIND) answer.unbind();
+  return SQL_SUCCESS;
+}
+
+SQLRETURN SQL_API SQLFetch(SQLHSTMT handle) {
+  auto& statement = *static_cast<Statement*>(handle);
+  return statement.is_answered ? statement.answer.fetch() : SQL_NO_DATA;
+}
+
+SQLRETURN SQL_API SQLBindCol(SQLHSTMT handle, SQLUSMALLINT number, SQLSMALLINT form, SQLPOINTER place, SQLLEN room,
+                             SQLLEN* length) {
+  static_cast<Statement*>(handle)->answer.bind(number, form, place, room, length);
+  return SQL_SUCCESS;
+}
+
+SQLRETURN SQL_API SQLGetData(SQLHSTMT handle, SQLUSMALLINT number, SQLSMALLINT form, SQLPOINTER place, SQLLEN room,
+                             SQLLEN* length) {
+  auto& statement = *static_cast<Statement*>(handle);
+  const SQLRETURN result = statement.answer.value(number, form, place, room, length);
+  statement.is_refused = result == SQL_ERROR;
+  return result;
+}
+
+SQLRETURN SQL_API SQLDescribeCol(SQLHSTMT handle, SQLUSMALLINT number, SQLCHAR* name, SQLSMALLINT room,
+                                 SQLSMALLINT* length, SQLSMALLINT* type, SQLULEN* size, SQLSMALLINT* places,
+                                 SQLSMALLINT* nullable) {
+  std::string told;
+  static_cast<Statement*>(handle)->answer.describe(number, told, *type, *size);
+  tell(told, name, room, length);
+  *places = 0;
+  *nullable = SQL_NULLABLE;
+  return SQL_SUCCESS;
+}
 
 SQLRETURN SQL_API SQLDriverConnect(SQLHDBC handle, SQLHWND, SQLCHAR* text, SQLSMALLINT length, SQLCHAR*, SQLSMALLINT,
                                    SQLSMALLINT*, SQLUSMALLINT) {
@@ -90,6 +131,7 @@ SQLRETURN SQL_API SQLDriverConnect(SQLHDBC handle, SQLHWND, SQLCHAR* text, SQLSM
   if (connection.engine.empty()) connection.engine = "Microsoft SQL Server";
   connection.record = attribute(connection_string, "RECORD");
   connection.refuse = attribute(connection_string, "REFUSE");
+  connection.answer = attribute(connection_string, "ANSWER");
   return SQL_SUCCESS;
 }
 
@@ -111,11 +153,12 @@ SQLRETURN SQL_API SQLExecDirect(SQLHSTMT handle, SQLCHAR* text, SQLINTEGER lengt
   const std::string_view sent = text_of(text, length);
   if (!connection.record.empty()) std::ofstream(connection.record, std::ios::app) << sent << '\n';
   statement.is_refused = !connection.refuse.empty() && sent.starts_with(connection.refuse);
+  statement.is_answered = !connection.answer.empty() && sent.starts_with(connection.answer);
   return statement.is_refused ? SQL_ERROR : SQL_SUCCESS;
 }
 
-SQLRETURN SQL_API SQLNumResultCols(SQLHSTMT, SQLSMALLINT* count) {
-  *count = 0;
+SQLRETURN SQL_API SQLNumResultCols(SQLHSTMT handle, SQLSMALLINT* count) {
+  *count = static_cast<Statement*>(handle)->is_answered ? brunvik::test::Answer::columns : 0;
   return SQL_SUCCESS;
 }
 
