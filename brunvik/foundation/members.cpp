@@ -63,8 +63,6 @@ ado::ConnectionReference connection_in(const Value& value) {
   return connection;
 }
 
-void write_value(StatementWriter& statement, const Value& value) { SqlValue(value).write_to(statement); }
-
 std::size_t next_number() noexcept {
   static std::atomic<std::size_t> tables{0};
   return tables++;
@@ -121,7 +119,7 @@ std::string_view name_of(MemberKind kind) noexcept {
 }
 
 Member Member::stored(std::string_view name, std::string_view column, MemberKind kind, Type type, Place place,
-                      TakeOwn take_own) {
+                      TakeOwn take_own, Write write) {
   Member member;
   member.name_ = name;
   member.kind_ = kind;
@@ -129,16 +127,18 @@ Member Member::stored(std::string_view name, std::string_view column, MemberKind
   member.written_column_ = member.read_column_ = column;
   member.place_ = place;
   member.take_own_ = take_own;
+  member.write_ = write;
   return member;
 }
 
-Member Member::computed(std::string_view name, std::string_view column, Type type, Compute compute) {
+Member Member::computed(std::string_view name, std::string_view column, Type type, Compute compute, Write write) {
   Member member;
   member.name_ = name;
   member.kind_ = MemberKind::read_only_property;
   member.type_ = type;
   member.written_column_ = column;
   member.compute_ = compute;
+  member.write_ = write;
   return member;
 }
 
@@ -177,24 +177,9 @@ Member Member::read_only() && {
   return std::move(*this);
 }
 
-void Member::write_to(StatementWriter& statement, const PublicObject& object) const {
-  if (compute_) return write_value(statement, compute_(object));
-  void* const place = place_(const_cast<PublicObject&>(object));
-  switch (type_) {
-    case Type::Text:
-      return statement.add_quoted(*static_cast<const std::string*>(place));
-    case Type::Money:
-      return statement.add(*static_cast<const Money*>(place));
-    case Type::Single:
-      return statement.add(*static_cast<const Single*>(place));
-    case Type::Integer:
-      return statement.add(std::int64_t{*static_cast<const Integer*>(place)});
-    case Type::Long:
-      return statement.add(std::int64_t{*static_cast<const Long*>(place)});
-    default:
-      visit_stored(type_, place, [&](const auto& property) { SqlValue(property).write_to(statement); });
-  }
-}
+void detail::write(StatementWriter& statement, Double number) { SqlValue(number).write_to(statement); }
+void detail::write(StatementWriter& statement, const Value& value) { SqlValue(value).write_to(statement); }
+void detail::raise_unwritable() { ado::raise(ado::error::type_mismatch); }
 
 void detail::assign_words(std::string& property, const std::string& words) { property = words; }
 

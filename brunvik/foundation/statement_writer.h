@@ -24,6 +24,11 @@ class StatementWriter {
 
   void add(std::string_view text) {
     if (room() < text.size()) return add_long(text);
+    // The comma between two values is most of what is added.
+    if (text.size() == 1) {
+      *place_++ = text.front();
+      return;
+    }
     std::memcpy(place_, text.data(), text.size());
     place_ += text.size();
   }
