@@ -72,6 +72,14 @@ void SqlValue::write_to(StatementWriter& statement) const {
   }
 }
 
+// Names of tables, columns and settings nearly all.
+void SqlValue::write_raw_to(StatementWriter& statement) const {
+  if (kind_ == Kind::text) return statement.add(text_);
+  std::string text;
+  append_raw_to(text);
+  statement.add(text);
+}
+
 void fill_places(StatementWriter& filled, std::string_view statement, std::span<const TextPlace> places,
                  std::span<const SqlValue> values) {
   std::size_t done = 0;
@@ -79,17 +87,21 @@ void fill_places(StatementWriter& filled, std::string_view statement, std::span<
     const TextPlace& place = places[number];
     filled.add({statement.data() + done, place.begin - done});
     done = place.end;
-    if (place.kind == TextPlace::Kind::quoted) {
-      values[number].write_to(filled);
-      continue;
+    const SqlValue& value = values[number];
+    switch (place.kind) {
+      case TextPlace::Kind::quoted:
+        value.write_to(filled);
+        break;
+      case TextPlace::Kind::raw:
+        value.write_raw_to(filled);
+        break;
+      case TextPlace::Kind::like: {
+        std::string text;
+        value.append_like_key_to(text);
+        filled.add(text);
+        break;
+      }
     }
-    std::string text;
-    if (place.kind == TextPlace::Kind::like) {
-      values[number].append_like_key_to(text);
-    } else {
-      values[number].append_raw_to(text);
-    }
-    filled.add(text);
   }
   filled.add({statement.data() + done, statement.size() - done});
 }

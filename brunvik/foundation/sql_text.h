@@ -39,6 +39,7 @@ class SqlValue {
   void write_to(StatementWriter& statement) const;
   void append_like_key_to(std::string& statement) const;
   void append_raw_to(std::string& statement) const;
+  void write_raw_to(StatementWriter& statement) const;
 
  private:
   enum class Kind { whole, single, real, money, text, dynamic };
