@@ -78,6 +78,19 @@ TEST_F(ErrorTrap, A_worker_tells_its_error_once_and_ends_the_verb_around_it) {
   EXPECT_EQ(host.notices, Notices{"提示信息| AddPayBill(): 对象变量或 With 块变量未设置"});
 }
 
+TEST_F(ErrorTrap, A_tag_may_be_put_together_for_the_notice) {
+  int made = 0;
+  const auto tag = [&] {
+    ++made;
+    return std::string("AddWareHouseRepairBillItems():");
+  };
+  EXPECT_EQ(trap([&] { worker(tag, [] {}); }), 0);
+  EXPECT_EQ(made, 0);
+  EXPECT_EQ(trap([&] { worker(tag, [] { ado::raise(ado::error::object_not_set); }); }), 91);
+  EXPECT_EQ(made, 1);
+  EXPECT_EQ(host.notices, Notices{"提示信息|AddWareHouseRepairBillItems():对象变量或 With 块变量未设置"});
+}
+
 TEST_F(ErrorTrap, Lets_nothing_through_whatever_a_host_throws) {
   EXPECT_EQ(trap([] { throw std::runtime_error("from a host's connection"); }), 51);
   EXPECT_EQ(trap([] { throw 7; }), 51);

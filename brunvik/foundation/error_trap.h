@@ -6,6 +6,7 @@
 // A body is straight code. Nothing that it did before a failure is undone: the statements that ran stay.
 #pragma once
 
+#include <concepts>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -59,6 +60,18 @@ Long trap(std::string_view tag, Body&& body, std::string_view title = notice_tit
   }
 }
 
+// The same with a tag that is put together for the notice alone.
+template <std::invocable MakeTag, class Body>
+Long trap(MakeTag&& make_tag, Body&& body) noexcept {
+  const detail::WithinCall call;
+  try {
+    std::forward<Body>(body)();
+    return 0;
+  } catch (...) {
+    return detail::notify_of_current_exception(std::forward<MakeTag>(make_tag)(), notice_title);
+  }
+}
+
 // With a tag or, where that is empty, without.
 template <class Body>
 Long trap_telling(std::string_view tag, Body&& body) noexcept {
@@ -66,9 +79,9 @@ Long trap_telling(std::string_view tag, Body&& body) noexcept {
 }
 
 // A worker with a tag of its own inside of a verb: an error shows the notice here, once, and ends the verb.
-template <class Body>
-void worker(std::string_view tag, Body&& body) {
-  stop_unless_done(trap(tag, std::forward<Body>(body)));
+template <class Tag, class Body>
+void worker(Tag&& tag, Body&& body) {
+  stop_unless_done(trap(std::forward<Tag>(tag), std::forward<Body>(body)));
 }
 
 }  // namespace brunvik

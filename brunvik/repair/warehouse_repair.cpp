@@ -26,7 +26,7 @@ DocumentForm WarehouseRepairDocument::warehouse_repair_form(const Kind& kind) {
                         {});
 }
 
-std::string WarehouseRepairDocument::tag(std::string_view before, std::string_view behind) const {
+std::string WarehouseRepairDocument::tag_text(std::string_view before, std::string_view behind) const {
   constexpr std::string_view cls = "cls";
   return std::string(before).append(kind().class_name.substr(cls.size())).append(behind).append("():");
 }

@@ -45,8 +45,10 @@ class WarehouseRepairDocument : public WarehouseDocument {
   virtual void add_to_stock(const StockRow& row) const = 0;
   virtual void take_from_stock(const StockRow& row) const = 0;
 
-  // The name of a worker, which has that of the class in it, as a tag.
-  std::string tag(std::string_view before, std::string_view behind = {}) const;
+  // The name of a worker, which has that of the class in it, as a tag that is put together when it is shown.
+  auto tag(std::string_view before, std::string_view behind = {}) const {
+    return [this, before, behind] { return tag_text(before, behind); };
+  }
 
   // The balance of the row's goods in a state.
   bool has_balance(const StockRow& row, Long state) const;
@@ -71,6 +73,8 @@ class WarehouseRepairDocument : public WarehouseDocument {
 
  private:
   static const Members& table();
+
+  std::string tag_text(std::string_view before, std::string_view behind) const;
 
   void add_inventory(const StockRow& row) const;
   void reduce_inventory() const;
