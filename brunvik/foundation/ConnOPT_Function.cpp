@@ -51,6 +51,25 @@ void rewrite_booleans(std::string& statement) {
   }
 }
 
+// Not inline, so that the common values pay for nothing of it.
+[[gnu::noinline]] std::string value_text(const Value& value, std::string_view wildcard, std::string_view position) {
+  std::string text;
+  value.visit([&](const auto& content) {
+    using Type = std::decay_t<decltype(content)>;
+    if constexpr (std::is_same_v<Type, ado::Empty> || std::is_same_v<Type, ado::Null>) {
+      text = "null";
+    } else if constexpr (std::is_same_v<Type, std::string>) {
+      text = like_text(content, wildcard, position);
+    } else if constexpr (std::is_same_v<Type, Date>) {
+      std::string date = Get_DateStr(content, 0);
+      text = content == Date{} ? "null" : std::move(date);
+    } else if constexpr (std::is_arithmetic_v<Type> || std::is_same_v<Type, Money>) {
+      SqlValue(content).append_to(text);
+    }
+  });
+  return text;
+}
+
 void run_in_upper_case(std::string& statement) {
   statement = upper_case(statement);
   rewrite_booleans(statement);
@@ -64,21 +83,7 @@ std::string GetSqlVal(const Value& Value, bool IsLike, std::string_view WildCard
   if (const auto* words = Value.get_if<std::string>(); words && !IsLike) return quoted(*words);
   if (const auto* number = Value.get_if<Long>()) return ado::number_text(*number);
   if (const auto* amount = Value.get_if<Money>()) return amount->text();
-  std::string text;
-  Value.visit([&](const auto& content) {
-    using Type = std::decay_t<decltype(content)>;
-    if constexpr (std::is_same_v<Type, ado::Empty> || std::is_same_v<Type, ado::Null>) {
-      text = "null";
-    } else if constexpr (std::is_same_v<Type, std::string>) {
-      text = like_text(content, WildCard, Position);
-    } else if constexpr (std::is_same_v<Type, Date>) {
-      std::string date = Get_DateStr(content, 0);
-      text = content == Date{} ? "null" : std::move(date);
-    } else if constexpr (std::is_arithmetic_v<Type> || std::is_same_v<Type, Money>) {
-      SqlValue(content).append_to(text);
-    }
-  });
-  return text;
+  return value_text(Value, WildCard, Position);
 } catch (...) {
   detail::notify_of_current_exception("GetSqlVal():", notice_title);
   return {};
