@@ -47,6 +47,9 @@ ColumnStatement::ColumnStatement(const Members& members, const std::vector<Colum
                                  std::string_view text, Parts (*take_apart)(std::string_view)) try
     : audited_(resolved(take_apart(form_of(text, true)), members, sources, true)),
       other_(resolved(take_apart(form_of(text, false)), members, sources, false)) {
+  for (const Place& place : other_.places) {
+    if (place.kept_in) members_written_.push_back(place.kept_in);
+  }
 } catch (const ado::RuntimeError& error) {
   throw ado::RuntimeError(error.number(), beginning(text) + ": " + error.description(), std::string(text));
 }
@@ -113,14 +116,6 @@ void ColumnStatement::write_to(StatementWriter& statement, const PublicObject& o
     }
   }
   statement.add(form.tail);
-}
-
-std::vector<const Member*> ColumnStatement::members_written() const {
-  std::vector<const Member*> members;
-  for (const Place& place : other_.places) {
-    if (place.kept_in) members.push_back(place.kept_in);
-  }
-  return members;
 }
 
 Insert::Insert(const Members& members, const std::vector<ColumnSource>& sources, std::string_view text)

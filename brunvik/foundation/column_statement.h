@@ -64,7 +64,7 @@ class ColumnStatement {
 
   // The properties that keep the columns written, but for those with a source that is no property: what an object
   // reads back of what it writes. In the form for any other status than 3.
-  std::vector<const Member*> members_written() const;
+  const std::vector<const Member*>& members_written() const noexcept { return members_written_; }
 
  protected:
   struct Value {
@@ -102,6 +102,7 @@ class ColumnStatement {
 
   Form audited_;
   Form other_;
+  std::vector<const Member*> members_written_;
 };
 
 // "insert into T(A,B) values(": the values follow, separated by commas, and the closing bracket.
