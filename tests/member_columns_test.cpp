@@ -55,7 +55,8 @@ std::vector<std::size_t> places(const ado::Recordset& set, const std::vector<std
   std::vector<const Member*> members;
   for (const std::string& name : names) members.push_back(&SampleRow().members().named(name));
   std::vector<std::size_t> found;
-  for (const auto& [member, place] : MemberColumns::fields_of(members, set)) found.push_back(place);
+  const MemberColumns::Fields fields = MemberColumns::fields_of(members, set);
+  for (const auto& [member, place] : *fields) found.push_back(place);
   return found;
 }
 

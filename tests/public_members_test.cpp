@@ -197,6 +197,35 @@ TEST(PublicMembers, Every_field_of_a_record_gives_back_what_was_put) {
   }
 }
 
+std::string lower(std::string text) {
+  std::transform(text.begin(), text.end(), text.begin(), ado::lower);
+  return text;
+}
+
+void expect_no_column_twice(std::string_view name, const Members& members) {
+  std::set<std::string> columns;
+  for (const Member& member : members) {
+    if (member.read_column().empty()) continue;
+    const bool is_first = columns.insert(lower(std::string(member.read_column()))).second;
+    EXPECT_TRUE(is_first) << name << "." << member.name() << " is read from the column of another";
+  }
+}
+
+// A property takes its text out of the record: for another there would be nothing left.
+TEST(PublicMembers, No_two_of_a_class_are_read_from_one_column) {
+  for (const automation::Class& each : automation::classes()) {
+    const auto object = each.create();
+    expect_no_column_twice(each.name, object->members());
+    for (const Member& member : object->members()) {
+      if (member.kind() != MemberKind::collection) continue;
+      expect_no_column_twice(each.name, member.rows(*object).add().members());
+    }
+  }
+  for (const automation::RecordClass& each : automation::record_classes()) {
+    expect_no_column_twice(each.name, automation::create_rows(each.name)->add().members());
+  }
+}
+
 TEST(PublicMembers, What_is_read_only_and_every_verb_refuse_a_put) {
   for (const automation::Class& each : automation::classes()) {
     const auto object = each.create();
@@ -237,11 +266,6 @@ TEST(PublicMembers, What_is_read_only_is_worked_out_from_what_was_put) {
     automation::put(*voucher, "Paidamount", "100.5");
     EXPECT_EQ(automation::get(*voucher, "DiscountAmount"), Value(Money::parse("-0.5"))) << class_name;
   }
-}
-
-std::string lower(std::string text) {
-  std::transform(text.begin(), text.end(), text.begin(), ado::lower);
-  return text;
 }
 
 // "class.verb" of every call in the cases, in lower case.

@@ -92,6 +92,12 @@ class Recordset : public Object {
     return {cells_.data() + record_, width_};
   }
 
+  // The same for the owner of the set, who may take them out of it.
+  std::span<Value> record() {
+    if (at_end()) raise_no_record();
+    return {cells_.data() + record_, width_};
+  }
+
   // The value in the current record. Error 3021 where there is none.
   const Value& value(Column column) const {
     if (at_end()) raise_no_record();

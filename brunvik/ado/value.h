@@ -66,6 +66,10 @@ class Value {
   const Type* get_if() const noexcept {
     return std::get_if<Type>(&content_);
   }
+  template <class Type>
+  Type* get_if() noexcept {
+    return std::get_if<Type>(&content_);
+  }
   const Array* array() const noexcept {
     const auto* items = get_if<std::shared_ptr<const Array>>();
     return items ? items->get() : nullptr;

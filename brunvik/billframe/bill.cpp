@@ -100,9 +100,9 @@ Long Bill::propose_number(std::string& BID, std::string_view prefix) noexcept {
   return 0;
 }
 
-void Bill::read_properties(const ado::Recordset& set) {
+void Bill::read_properties(ado::Recordset set) {
   if (set.at_end()) return;
-  MemberColumns::for_each(members(), set, [&](const Member& member, const Value& field) { member.read(*this, field); });
+  MemberColumns::for_each(members(), set, [&](const Member& member, Value& field) { member.take(*this, field); });
 }
 
 std::string Bill::aggregated_id(const ado::Recordset& set) { return aggregated_number(set, "Id"); }

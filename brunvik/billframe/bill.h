@@ -122,7 +122,7 @@ class Bill : public PublicObject {
   }
 
   // Fills the properties from the set's record, where there is one.
-  void read_properties(const ado::Recordset& set);
+  void read_properties(ado::Recordset set);
 
   // The only value of an aggregate as text; null reads as the empty text.
   static std::string aggregated_id(const ado::Recordset& set);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <functional>
+#include <utility>
 
 namespace brunvik {
 
@@ -21,25 +22,25 @@ const std::vector<MemberColumns::Field>& MemberColumns::fields_of(const Members&
   return columns.fields_;
 }
 
-bool MemberColumns::are_of(std::span<const Member* const> members, const ado::Recordset& set) const {
-  return names_ == set.column_names() && std::ranges::equal(fields_, members, {}, &Field::member);
-}
-
-std::vector<MemberColumns::Field> MemberColumns::fields_of(std::span<const Member* const> members,
-                                                           const ado::Recordset& set) {
-  // The rows of a statement are read into the same members each time, so one list is kept for the names of each.
+MemberColumns::Fields MemberColumns::fields_of(std::span<const Member* const> members, const ado::Recordset& set) {
+  // The rows of a statement are read into the same members each time, so one list is kept for the names of each. A
+  // reader shares it, since what finishes a row may read other rows.
+  struct Known {
+    std::shared_ptr<const ado::ColumnNames> names;
+    Fields fields;
+  };
   constexpr std::size_t kept = 64;
-  thread_local std::array<MemberColumns, kept> known;
-  MemberColumns& columns = known[std::hash<const void*>()(set.column_names().get()) / alignof(std::max_align_t) % kept];
-  if (!columns.are_of(members, set)) {
-    columns.names_.reset();
-    columns.fields_.clear();
+  thread_local std::array<Known, kept> all_known;
+  Known& known = all_known[std::hash<const void*>()(set.column_names().get()) / alignof(std::max_align_t) % kept];
+  if (known.names != set.column_names() || !known.fields ||
+      !std::ranges::equal(*known.fields, members, {}, &Field::member)) {
+    std::vector<Field> fields;
     for (const Member* member : members) {
-      columns.fields_.push_back({member, static_cast<std::size_t>(set.column(member->read_column()))});
+      fields.push_back({member, static_cast<std::size_t>(set.column(member->read_column()))});
     }
-    columns.names_ = set.column_names();
+    known = {set.column_names(), std::make_shared<const std::vector<Field>>(std::move(fields))};
   }
-  return columns.fields_;
+  return known.fields;
 }
 
 }  // namespace brunvik

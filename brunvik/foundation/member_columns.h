@@ -10,6 +10,7 @@
 #include <span>
 #include <vector>
 
+#include "brunvik/ado/errors.h"
 #include "brunvik/ado/recordset.h"
 #include "brunvik/foundation/members.h"
 
@@ -22,25 +23,26 @@ class MemberColumns {
     std::size_t place;
   };
 
-  // Calls `read(member, value)` for each member of the table that is read from a column, in their order. Error 3021
-  // where there is no record; 3265 at the first member whose column the set doesn't have.
-  template <class Read>
-  static void for_each(const Members& table, const ado::Recordset& set, Read&& read) {
+  // Calls `read(member, value)` for each member of the table that is read from a column, in their order; the values of
+  // the caller's own set are its to take. Error 3021 where there is no record; 3265 at the first member whose column
+  // the set doesn't have.
+  template <class Set, class Read>
+  static void for_each(const Members& table, Set& set, Read&& read) {
     const std::vector<Field>& fields = fields_of(table, set);
-    const std::span<const ado::Value> record = set.record();
+    const auto record = set.record();
     for (const auto& [member, place] : fields) {
-      read(*member, place < record.size() ? record[place] : set.value(member->read_column()));
+      if (place == record.size()) ado::raise(ado::error::no_such_field);
+      read(*member, record[place]);
     }
   }
 
   // The places of these members, in their order; error 3265 at the first whose column the set doesn't have.
-  static std::vector<Field> fields_of(std::span<const Member* const> members, const ado::Recordset& set);
+  using Fields = std::shared_ptr<const std::vector<Field>>;
+  static Fields fields_of(std::span<const Member* const> members, const ado::Recordset& set);
 
  private:
   // Good until the next call on this thread. A column that the set doesn't have stands behind its last one.
   static const std::vector<Field>& fields_of(const Members& table, const ado::Recordset& set);
-
-  bool are_of(std::span<const Member* const> members, const ado::Recordset& set) const;
 
   std::shared_ptr<const ado::ColumnNames> names_;
   const Members* table_ = nullptr;

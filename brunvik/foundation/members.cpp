@@ -39,21 +39,21 @@ void visit_stored(Type type, void* place, Visitor&& visitor) {
   }
 }
 
-void take(std::string& property, const Value& value) {
+void assign(std::string& property, const Value& value) {
   if (const auto* text = value.get_if<std::string>()) {
-    detail::assign(property, *text);
+    property = *text;
   } else {
     property = value.as_text();
   }
 }
-void take(Byte& property, const Value& value) { property = value.as_byte(); }
-void take(Integer& property, const Value& value) { property = value.as_integer(); }
-void take(Long& property, const Value& value) { property = value.as_long(); }
-void take(Single& property, const Value& value) { property = value.as_single(); }
-void take(Double& property, const Value& value) { property = value.as_double(); }
-void take(Money& property, const Value& value) { property = value.as_money(); }
-void take(bool& property, const Value& value) { property = value.as_boolean(); }
-void take(Value& property, const Value& value) { property = value; }
+void assign(Byte& property, const Value& value) { property = value.as_byte(); }
+void assign(Integer& property, const Value& value) { property = value.as_integer(); }
+void assign(Long& property, const Value& value) { property = value.as_long(); }
+void assign(Single& property, const Value& value) { property = value.as_single(); }
+void assign(Double& property, const Value& value) { property = value.as_double(); }
+void assign(Money& property, const Value& value) { property = value.as_money(); }
+void assign(bool& property, const Value& value) { property = value.as_boolean(); }
+void assign(Value& property, const Value& value) { property = value; }
 
 ado::ConnectionReference connection_in(const Value& value) {
   if (value.is_empty() || value.is_null()) return nullptr;
@@ -181,7 +181,7 @@ void detail::write(StatementWriter& statement, Double number) { SqlValue(number)
 void detail::write(StatementWriter& statement, const Value& value) { SqlValue(value).write_to(statement); }
 void detail::raise_unwritable() { ado::raise(ado::error::type_mismatch); }
 
-void detail::assign_words(std::string& property, const std::string& words) { property = words; }
+void detail::take_words(std::string& property, std::string& words) noexcept { property = std::move(words); }
 
 void Member::read_converted(PublicObject& object, const Value& field) const {
   if (field.is_null() && required_) ado::raise(ado::error::invalid_use_of_null);
@@ -189,7 +189,7 @@ void Member::read_converted(PublicObject& object, const Value& field) const {
     if (field.is_null()) {
       property = {};
     } else {
-      take(property, field);
+      assign(property, field);
     }
   });
 }
@@ -219,7 +219,7 @@ void Member::put(PublicObject& object, const Value& value) const {
     if (!rows) ado::raise(ado::error::type_mismatch);
     static_cast<RowCollection*>(place)->assign(*rows);
   } else {
-    visit_stored(type_, place, [&](auto& property) { take(property, value); });
+    visit_stored(type_, place, [&](auto& property) { assign(property, value); });
   }
 }
 

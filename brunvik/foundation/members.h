@@ -13,6 +13,7 @@
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 #include "brunvik/ado/connection.h"
@@ -84,8 +85,8 @@ class Member {
  public:
   // A stored property is reached through its place in the object, any other member through a function.
   using Place = void* (*)(PublicObject&);
-  // Takes a value of the very type that the property has; false for any other value.
-  using TakeOwn = bool (*)(PublicObject&, const Value&);
+  // Takes a value of the very type that the property has, a text away from where it is; false for any other value.
+  using TakeOwn = bool (*)(PublicObject&, Value&);
   // Writes the property's value into a statement.
   using Write = void (*)(StatementWriter&, const PublicObject&);
   using Compute = Value (*)(const PublicObject&);
@@ -124,7 +125,10 @@ class Member {
   void write_to(StatementWriter& statement, const PublicObject& object) const { write_(statement, object); }
 
   // Takes the value of the column in a record. Nearly all columns hold just what their property is.
-  void read(PublicObject& object, const Value& field) const {
+  void read(PublicObject& object, Value field) const { take(object, field); }
+
+  // The same from a record that nobody reads behind this: of a text nothing is left there.
+  void take(PublicObject& object, Value& field) const {
     if (!take_own_(object, field)) read_converted(object, field);
   }
 
@@ -239,12 +243,12 @@ void* place_of(PublicObject& object) {
   return &(static_cast<typename MemberPointer<decltype(pointer)>::Class&>(object).*pointer);
 }
 
-void assign_words(std::string& property, const std::string& words);
+void take_words(std::string& property, std::string& words) noexcept;
 
 // Half of a row's texts are empty, and so are the properties of a row that is filled for the first time.
-inline void assign(std::string& property, const std::string& text) {
+inline void take_text(std::string& property, std::string& text) noexcept {
   if (text.empty()) return property.clear();
-  assign_words(property, text);
+  take_words(property, text);
 }
 
 // The types of the columns in the books.
@@ -255,19 +259,27 @@ constexpr bool is_read_as_it_is =
     std::is_same_v<Stored, Single> || std::is_same_v<Stored, Double>;
 
 template <auto pointer>
-bool take_own(PublicObject& object, const Value& field) {
+bool take_own(PublicObject& object, Value& field) {
   using Pointer = MemberPointer<decltype(pointer)>;
   using Stored = typename Pointer::Type;
   if constexpr (is_read_as_it_is<Stored>) {
-    const auto* const own = field.get_if<Stored>();
-    if (!own) return false;
     auto& property = static_cast<typename Pointer::Class&>(object).*pointer;
-    if constexpr (std::is_same_v<Stored, std::string>) {
-      assign(property, *own);
-    } else {
-      property = *own;
+    if (auto* const own = field.get_if<Stored>()) {
+      if constexpr (std::is_same_v<Stored, std::string>) {
+        take_text(property, *own);
+      } else {
+        property = *own;
+      }
+      return true;
     }
-    return true;
+    // Some tables number their rows in 32 bits.
+    if constexpr (std::is_same_v<Stored, Integer>) {
+      const auto* const number = field.get_if<Long>();
+      if (number && std::in_range<Integer>(*number)) {
+        property = static_cast<Integer>(*number);
+        return true;
+      }
+    }
   }
   return false;
 }
