@@ -9,7 +9,6 @@
 #include <cstring>
 #include <string>
 #include <string_view>
-#include <utility>
 
 #include "brunvik/ado/money.h"
 #include "brunvik/ado/types.h"
@@ -58,8 +57,8 @@ class StatementWriter {
 class Statement {
  public:
   template <std::invocable<StatementWriter&> Write>
-  explicit Statement(Write&& write) {
-    std::forward<Write>(write)(writer_);
+  explicit Statement(const Write& write) {
+    write(writer_);
     text_ = writer_.text();
   }
   Statement(const Statement&) = delete;
