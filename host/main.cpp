@@ -194,6 +194,9 @@ int carried_out(int (*command)(const Options&), const Options& options) {
   } catch (const host::UnreadableLine& failure) {
     std::cerr << "brunvik: " << failure.what() << '\n';
     return bad_usage;
+  } catch (const ado::RuntimeError& failure) {
+    std::cerr << "brunvik: " << failure.number() << ": " << failure.description() << '\n';
+    return no_database;
   } catch (const std::exception& failure) {
     std::cerr << "brunvik: " << failure.what() << '\n';
     return no_database;

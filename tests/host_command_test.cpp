@@ -70,7 +70,8 @@ TEST(HostCommand, A_missing_database_is_status_1_and_is_not_made) {
   const Ended ended = brunvik({"run", "--db", "sqlite:" + path}, count_of_goods);
   EXPECT_EQ(ended.status, 1);
   EXPECT_EQ(ended.out, "");
-  EXPECT_EQ(ended.error, "brunvik: there is no database '" + path + "' (--create makes one with its tables)\n");
+  EXPECT_EQ(ended.error,
+            "brunvik: -2147467259: there is no database '" + path + "' (--create makes one with its tables)\n");
   EXPECT_FALSE(std::filesystem::exists(path));
 }
 
@@ -84,7 +85,8 @@ TEST(HostCommand, A_file_that_is_no_database_is_status_1_and_stays_as_it_is) {
                                 std::vector<std::string>{"demo", "--db", "sqlite:" + path}}) {
     const Ended ended = brunvik(arguments, count_of_goods);
     EXPECT_EQ(ended.status, 1);
-    EXPECT_EQ(ended.error, "brunvik: the database '" + path + "' can't be opened: file is not a database\n");
+    EXPECT_EQ(ended.error,
+              "brunvik: -2147467259: the database '" + path + "' can't be opened: file is not a database\n");
   }
   EXPECT_EQ(content_of(path), letter);
 }
@@ -112,7 +114,7 @@ TEST(HostCommand, A_database_of_another_program_is_refused_and_stays_as_it_is) {
     const Ended ended = brunvik(arguments, count_of_goods);
     EXPECT_EQ(ended.status, 1);
     EXPECT_EQ(ended.out, "");
-    EXPECT_EQ(ended.error, "brunvik: the database '" + path +
+    EXPECT_EQ(ended.error, "brunvik: -2147467259: the database '" + path +
                                "' can't be opened: There is none of the books' tables in '" + path +
                                "', which stays as it is.\n");
     EXPECT_EQ(content_of(path), before);

@@ -5,6 +5,7 @@
 #include <chrono>
 
 #include "drivers/odbc/connection.h"
+#include "tests/support/closed_port.h"
 #include "tests/support/driver_books.h"
 #include "tests/support/mariadb.h"
 #include "tests/support/own_server.h"
@@ -40,11 +41,12 @@ class OdbcOpening : public ::testing::Test {
 };
 
 TEST_F(OdbcOpening, What_is_wrong_in_the_string_is_told_in_the_engine_s_words) {
+  const ClosedPort closed;
   EXPECT_EQ(odbc::open(by_tcp_)->State(), 1);
   expect_refused(with(by_tcp_, "PWD", "a-wrong-one"), {"Access denied for user 'books'@"});
   expect_refused(with(by_tcp_, "PWD", "{a-wrong-one;}"), {"Access denied for user 'books'@"});
   expect_refused(with(by_tcp_, "UID", "nobody"), {"Access denied for user 'nobody'@"});
-  expect_refused(with(by_tcp_, "PORT", "1"), {"Can't connect to server on '127.0.0.1'"});
+  expect_refused(with(by_tcp_, "PORT", closed.number()), {"Can't connect to server on '127.0.0.1'"});
   expect_refused(with(by_tcp_, "SERVER", "nowhere.invalid"), {"nowhere.invalid"});
   expect_refused(with(by_tcp_, "DATABASE", "books_nowhere"), {"Unknown database 'books_nowhere'"});
   expect_refused(with(by_tcp_, "DRIVER", "{Nowhere ODBC}"), {"[unixODBC][Driver Manager]"});
@@ -109,14 +111,12 @@ TEST(OdbcOwnServer, One_without_a_connection_to_spare_says_so) {
   // Another connection is left to who may see to the server; root is one of them.
   const OwnServer server("max_connections=10");
   std::vector<std::shared_ptr<odbc::Connection>> all;
-  const auto failure = failure_of([&] {
-    for (int count = 0; count < 20; ++count) all.push_back(odbc::open(server.connection_string()));
-  });
-  EXPECT_EQ(all.size(), 11U);
+  while (all.size() < 11) all.push_back(server.open_when_there_is_room());
+  const auto failure = failure_of([&] { odbc::open(server.connection_string()); });
   EXPECT_EQ(failure.number(), error::provider_failed);
   EXPECT_TRUE(holds(failure, "Too many connections")) << failure.description();
   all.clear();
-  EXPECT_EQ(odbc::open(server.connection_string())->State(), 1);
+  EXPECT_EQ(server.open_when_there_is_room()->State(), 1);
 }
 
 }  // namespace

@@ -3,8 +3,10 @@
 
 #include <sys/types.h>
 
+#include <memory>
 #include <string>
 
+#include "drivers/odbc/connection.h"
 #include "tests/support/folder.h"
 
 namespace brunvik::test {
@@ -30,20 +32,26 @@ class OwnServer {
   const std::string& address() const { return address_; }
   std::string connection_string() const { return address_.substr(address_.find(':') + 1); }
 
+  // Waits while the server has all the connections that it takes: one that was closed counts until the server has seen
+  // to it.
+  std::shared_ptr<odbc::Connection> open_when_there_is_room() const;
+
   // The path of the socket that it listens on.
   std::string socket() const;
 
+  // Both return when the server answers nothing any more.
   void end_at_once() const;
   void fall_silent() const;
+
   void go_on() const;
 
  private:
   std::string script(const std::string& verb) const;
-  pid_t process() const;
 
   Folder folder_;
   std::string settings_;
   std::string address_;
+  pid_t process_ = 0;
 };
 
 }  // namespace brunvik::test
