@@ -1,9 +1,11 @@
 // A host that sells as one: the sale, the money taken at the counter and the audit of both enter the books together, or
-// not at all. The second sale fails in the middle of its audit, and nothing of it stays.
+// not at all. The second sale fails in the middle of its audit, and nothing of it stays. The books are in memory; with
+// an ODBC connection string they are in the empty database of a MariaDB server.
 #include <functional>
 #include <iostream>
 
 #include "brunvik/brunvik.h"
+#include "drivers/odbc/connection.h"
 #include "drivers/sqlite/connection.h"
 #include "schema/ddl.h"
 
@@ -66,19 +68,37 @@ void show(ado::Connection& books) {
             << ", receipts " << receipts.value("n").as_text() << '\n';
 }
 
+// The library lets stock go below zero. This company doesn't, and has its database say so.
+constexpr const char* no_debts_on_sqlite =
+    "create trigger No_debts before update on Inventory when new.CurrentQty<0 "
+    "begin select raise(abort,'库存不足'); end";
+constexpr const char* no_debts_on_mariadb = "alter table Inventory add constraint No_debts check (CurrentQty>=0)";
+
+void lay(ado::Connection& books, schema::Engine engine, const char* no_debts) {
+  for (const auto& statement : schema::statements(engine)) books.Execute(statement);
+  books.Execute(no_debts);
+}
+
+ado::ConnectionReference laid_books(const char* connection_string) {
+  if (connection_string == nullptr) {
+    const auto books = sqlite::open(":memory:");
+    lay(*books, schema::Engine::sqlite, no_debts_on_sqlite);
+    return books;
+  }
+  const auto books = odbc::open(connection_string);
+  lay(*books, schema::Engine::mariadb, no_debts_on_mariadb);
+  return books;
+}
+
 }  // namespace
 
-int main() {
-  const auto books = sqlite::open(":memory:");
-  for (const auto& statement : schema::statements(schema::Engine::sqlite)) books->Execute(statement);
+int main(int count, char** words) {
+  const auto books = laid_books(count > 1 ? words[1] : nullptr);
   for (const char* statement : {
            "insert into goods(id,Gname,Class,Unit,Model1,Model2,AverageCost) "
            "values('G1','螺丝','五金','盒','','',4.55)",
            "insert into Inventory(WID,GId,Model1,Model2,Status,Class,Unit,InQty,OutQty,CurrentQty,Remarks) "
            "values('W1','G1','','',0,'五金','盒',10,0,10,'')",
-           // The library lets stock go below zero. This company doesn't, and has its database say so.
-           "create trigger No_debts before update on Inventory when new.CurrentQty<0 "
-           "begin select raise(abort,'库存不足'); end",
        }) {
     books->Execute(statement);
   }

@@ -10,7 +10,12 @@ namespace brunvik::host {
 
 namespace {
 
+// A server's name is looked up again and again until the time for opening is over, but no lookup is cut short, and by
+// its own settings one that gets no answer can take a minute.
+void shorten_lookups() { setenv("RES_OPTIONS", "timeout:1 attempts:1", 0); }
+
 std::shared_ptr<odbc::Connection> opened(const std::string& address) {
+  shorten_lookups();
   const char* const password = std::getenv("BRUNVIK_PASSWORD");
   try {
     return odbc::open(address, {.password = password ? password : "", .known_tables = names_of_tables()});
