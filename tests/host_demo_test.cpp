@@ -60,7 +60,8 @@ TEST(HostDemo, A_database_in_use_is_refused_and_stays_as_it_is) {
   const Ended ended = demo(books);
   EXPECT_EQ(ended.status, 1);
   EXPECT_EQ(ended.out, "");
-  EXPECT_EQ(ended.error, "brunvik: -2147467259: '" + folder.file("books.db") + "' is in use already, and stays as it is\n");
+  EXPECT_EQ(ended.error,
+            "brunvik: -2147467259: '" + folder.file("books.db") + "' is in use already, and stays as it is\n");
   EXPECT_EQ(brunvik({"run", "--db", books}, "{\"do\":\"sql\",\"text\":\"select id from goods\"}\n").out,
             "{\"line\":1,\"columns\":[\"id\"],\"rows\":[[\"mine\"]]}\n");
 }

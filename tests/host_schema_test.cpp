@@ -90,8 +90,7 @@ TEST(HostSchema, A_table_without_its_key_is_no_table_of_the_books) {
   const Ended ended = brunvik({"schema", "--db", "sqlite:" + path});
   EXPECT_EQ(ended.status, 1);
   EXPECT_EQ(ended.out, "");
-  EXPECT_EQ(ended.error,
-            "brunvik: the table BasicConfig lacks its key keyname, which can't be added to it\n");
+  EXPECT_EQ(ended.error, "brunvik: the table BasicConfig lacks its key keyname, which can't be added to it\n");
 }
 
 TEST(HostSchema, What_can_t_be_laid_is_told_and_nothing_else_is_laid_either) {
