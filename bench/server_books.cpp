@@ -3,13 +3,16 @@
 #include <sqlite3.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <cstdlib>
 #include <memory>
 #include <stdexcept>
 #include <string_view>
+#include <thread>
 #include <utility>
 
 #include "bench/plain_odbc.h"
+#include "drivers/odbc/connection.h"
 #include "schema/ddl.h"
 #include "schema/tables.h"
 
@@ -117,6 +120,23 @@ void ServerBooks::copy_from(const std::string& path) const {
     books.execute("commit");
     books.execute("analyze table `" + std::string(table.name) + "`");
   }
+}
+
+void settle(const std::string& server) {
+  const auto books = odbc::open(first_of(server) + ";DATABASE=books");
+  PlainOdbc settings(first_of(server) + ";DATABASE=books");
+  settings.execute("set global innodb_max_purge_lag_wait=0");
+  settings.execute("set global innodb_max_dirty_pages_pct=0");
+  const auto dirty_pages = [&] {
+    return std::stol(
+        books->Execute("show global status like 'Innodb_buffer_pool_pages_dirty'").value("Value").as_text());
+  };
+  constexpr int longest = 120;
+  constexpr long hardly_any = 100;
+  for (int second = 0; second < longest && dirty_pages() > hardly_any; ++second) {
+    std::this_thread::sleep_for(std::chrono::seconds(1));
+  }
+  settings.execute("set global innodb_max_dirty_pages_pct=default");
 }
 
 void set_commit(const std::string& server, Commit commit) {

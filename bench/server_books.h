@@ -29,6 +29,10 @@ class ServerBooks {
   std::string name_;
 };
 
+// Waits until a server has carried to the disk, and cleared away, what it was given before: that is work of the laying,
+// and would be measured with the verbs.
+void settle(const std::string& server);
+
 // Whether a commit waits for the disk, on the server and for all its connections.
 enum class Commit { durable, once_a_second };
 void set_commit(const std::string& server, Commit commit);

@@ -26,6 +26,7 @@ struct Books {
 
   explicit Books(int bills) : laid(mariadb_server(), file(bills)) {
     set_commit(mariadb_server(), Commit::once_a_second);
+    settle(mariadb_server());
   }
 
   static const Folder& folder() {
