@@ -26,6 +26,15 @@ TEST(StatementWriter, Keeps_a_statement_of_any_length) {
   EXPECT_EQ(statement.text(), expected);
 }
 
+// A text that is nowhere has no byte to copy from.
+TEST(StatementWriter, A_piece_of_nothing_adds_nothing) {
+  StatementWriter statement;
+  statement.add(std::string_view());
+  statement.add("a");
+  statement.add(std::string_view());
+  EXPECT_EQ(statement.text(), "a");
+}
+
 TEST(StatementWriter, Doubles_an_apostrophe_wherever_it_stands) {
   for (std::size_t length = 1; length <= 70; ++length) {
     for (std::size_t place = 0; place < length; ++place) {

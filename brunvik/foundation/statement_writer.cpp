@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <cmath>
+#include <cstring>
 
 #include "brunvik/ado/numbers.h"
 #include "brunvik/foundation/text.h"

@@ -2,11 +2,11 @@
 // a string, a piece costs half the instructions: there is nothing to grow, and nothing to keep closed by a zero.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -28,8 +28,7 @@ class StatementWriter {
       *place_++ = text.front();
       return;
     }
-    std::memcpy(place_, text.data(), text.size());
-    place_ += text.size();
+    place_ = std::copy(text.begin(), text.end(), place_);
   }
 
   void add(std::int64_t number);
