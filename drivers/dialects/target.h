@@ -12,6 +12,9 @@ enum class Target : unsigned char { plain, key, money, single, byte_number, inte
 // What a column of a type makes of a value; one that keeps the value as it stands is plain.
 Target target_of(ColumnType type) noexcept;
 
+// Whether the column of a target keeps amounts or quantities.
+constexpr bool has_decimals(Target target) noexcept { return target == Target::money || target == Target::single; }
+
 // The whole numbers that the column of a target holds; none for a column that isn't bounded so.
 std::optional<WholeRange> whole_range(Target target) noexcept;
 

@@ -98,7 +98,7 @@ void append_literal(std::string& text, const dialects::Literal& literal, Target 
   std::string_view content = literal.content;
   if (target == Target::key) {
     while (content.ends_with(' ')) content.remove_suffix(1);
-  } else if (target == Target::money || target == Target::single) {
+  } else if (dialects::has_decimals(target)) {
     const std::string_view number = ado::trimmed_number(content);
     const bool has_sign = number.starts_with('-') || number.starts_with('+');
     const std::string_view digits = number.substr(has_sign ? 1 : 0);

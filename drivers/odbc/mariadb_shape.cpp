@@ -44,8 +44,6 @@ bool ends_with_a_sign(std::string_view words) noexcept {
   return last != std::string_view::npos && std::string_view("+-*").find(words[last]) != std::string_view::npos;
 }
 
-bool is_a_numbers(Target target) noexcept { return target == Target::money || target == Target::single; }
-
 }  // namespace
 
 MariaDbShape::MariaDbShape(MariaDbText text) : text_(std::move(text)) {
@@ -54,18 +52,18 @@ MariaDbShape::MariaDbShape(MariaDbText text) : text_(std::move(text)) {
     const auto mark = std::find_if(rest.begin(), rest.end(), dialects::is_mark);
     const auto length = static_cast<std::size_t>(mark - rest.begin());
     const std::string_view words = rest.substr(0, length);
-    pieces_.push_back({std::string(words), value, road_of(value, *mark, words)});
+    pieces_.push_back({std::string(words), value, binding_of(value, *mark, words)});
     rest.remove_prefix(length + 1);
   }
   end_ = rest;
 }
 
-MariaDbShape::Road MariaDbShape::road_of(std::size_t value, char mark, std::string_view words) const noexcept {
-  const bool is_of_column = is_a_numbers(text_.targets[value]);
+MariaDbShape::Binding MariaDbShape::binding_of(std::size_t value, char mark, std::string_view words) const noexcept {
+  const bool is_of_column = dialects::has_decimals(text_.targets[value]);
   const bool is_number = dialects::kind_of_mark(mark) == LiteralKind::number;
-  if ((is_of_column || is_number) && !text_.is_selection && ends_with_a_sign(words)) return Road::decimal;
-  if (is_of_column) return Road::number;
-  return is_number ? Road::whole_number : Road::text;
+  if ((is_of_column || is_number) && !text_.is_selection && ends_with_a_sign(words)) return Binding::decimal;
+  if (is_of_column) return Binding::number;
+  return is_number ? Binding::whole_number : Binding::text;
 }
 
 std::size_t MariaDbShape::held_bytes() const noexcept {
@@ -74,14 +72,14 @@ std::size_t MariaDbShape::held_bytes() const noexcept {
   return 2 * text_.shape.size() + of_a_statement;
 }
 
-bool MariaDbShape::can_be_bound(Road road, const Literal& literal) noexcept {
-  if (road == Road::text) return true;
-  return road == Road::whole_number ? is_bound_number(literal.content) : is_plain_decimal(literal.content);
+bool MariaDbShape::can_be_bound(Binding binding, const Literal& literal) noexcept {
+  if (binding == Binding::text) return true;
+  return binding == Binding::whole_number ? is_bound_number(literal.content) : is_plain_decimal(literal.content);
 }
 
 bool MariaDbShape::can_be_bound(std::span<const Literal> literals) const noexcept {
   return std::all_of(pieces_.begin(), pieces_.end(),
-                     [&](const Piece& piece) { return can_be_bound(piece.road, literals[piece.value]); });
+                     [&](const Piece& piece) { return can_be_bound(piece.binding, literals[piece.value]); });
 }
 
 ado::Recordset MariaDbShape::run(std::span<const Literal> literals, const Link& link, const Statement& direct,
@@ -92,7 +90,8 @@ ado::Recordset MariaDbShape::run(std::span<const Literal> literals, const Link& 
 
 void MariaDbShape::prepare(const Link& link) {
   std::string text;
-  for (const Piece& piece : pieces_) text.append(piece.words).append(piece.road == Road::decimal ? decimal_place : "?");
+  for (const Piece& piece : pieces_)
+    text.append(piece.words).append(piece.binding == Binding::decimal ? decimal_place : "?");
   text += end_;
   Statement statement = link.statement();
   expect(SQLPrepare(statement.get(), as_characters(text), static_cast<SQLINTEGER>(text.size())), statement);
@@ -106,7 +105,7 @@ void MariaDbShape::put_values(std::span<const Literal> literals, std::string_vie
     const Literal& literal = literals[piece.value];
     Parameter& parameter = parameters_[place];
     const auto number = static_cast<SQLUSMALLINT>(place + 1);
-    if (piece.road == Road::text) {
+    if (piece.binding == Binding::text) {
       std::string_view text = literal.content;
       std::string unescaped;
       if (literal.has_apostrophes) text = unescaped = with_single_apostrophes(text);
@@ -114,7 +113,7 @@ void MariaDbShape::put_values(std::span<const Literal> literals, std::string_vie
         while (text.ends_with(' ')) text.remove_suffix(1);
       }
       parameter.put(text, prepared_, number);
-    } else if (piece.road == Road::whole_number) {
+    } else if (piece.binding == Binding::whole_number) {
       std::int64_t whole_number = 0;
       std::from_chars(literal.content.data(), literal.content.data() + literal.content.size(), whole_number);
       parameter.put(whole_number, prepared_, number);

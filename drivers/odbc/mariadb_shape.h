@@ -34,16 +34,16 @@ class MariaDbShape {
  private:
   // What is bound for a value: a text, a whole number, the digits of a column's number, or the digits of one that the
   // engine reckons with as a decimal.
-  enum class Road { text, whole_number, number, decimal };
+  enum class Binding { text, whole_number, number, decimal };
 
   struct Piece {
     std::string words;
     std::size_t value;  // which stands behind the words
-    Road road;
+    Binding binding;
   };
 
-  Road road_of(std::size_t value, char mark, std::string_view words) const noexcept;
-  static bool can_be_bound(Road road, const dialects::Literal& literal) noexcept;
+  Binding binding_of(std::size_t value, char mark, std::string_view words) const noexcept;
+  static bool can_be_bound(Binding binding, const dialects::Literal& literal) noexcept;
   bool can_be_bound(std::span<const dialects::Literal> literals) const noexcept;
   void prepare(const Link& link);
   void put_values(std::span<const dialects::Literal> literals, std::string_view statement);
