@@ -1,6 +1,6 @@
 #include "brunvik/sales/sales_issue.h"
 
-#include "brunvik/foundation/late_binding.h"
+#include "brunvik/billframe/bill_members.h"
 #include "brunvik/foundation/sql_text.h"
 #include "brunvik/settlement/advance.h"
 
@@ -43,11 +43,7 @@ Members SalesIssue::issue_members(const Kind& kind) {
       property<&C::Referflag>("Referflag", "ReferFlag"),
       property<&C::Auditor>("Auditor", "Auditor"),
       property<&C::Referbillid>("Referbillid", "Referbillid"),
-      property<&C::Summary>("Summary", "Summary"),
-      property<&C::Remarks>("Remarks", "Remarks"),
-      verb<&C::Save>("Save"),
-      verb<&C::SaveAsDraft>("SaveAsDraft"),
-      verb<&C::Delete>("Delete"),
+      texts_and_saving<C>(),
       verb<&C::LoadLast>("LoadLast", series),
       verb<&C::GetLastId>("GetLastId", out("LastId"), series),
       verb<&C::LoadById>("LoadById", in_out("BID")),

@@ -54,13 +54,7 @@ const Members& OtherMoneyDocument::table() {
       property<&C::Lastupdatetime>("Lastupdatetime", "Lastupdatetime"),
       property<&C::Summary>("Summary", "Summary"),
       property<&C::Remarks>("Remarks", "Remarks"),
-      verb<&C::Save>("Save"),
-      verb<&C::SaveAsDraft>("SaveAsDraft"),
-      verb<&C::GetNewId>("GetNewId", out("BID")),
-      verb<&C::LoadById>("LoadById", in_out("BID")),
-      verb<&C::Delete>("Delete"),
-      verb<&C::UpdateAudited>("UpdateAudited"),
-      verb<&C::CancelAudited>("CancelAudited"),
+      saving_and_audit_by_status<C>(),
       walk<C>(),
   };
   return table;

@@ -21,13 +21,7 @@ class WarehouseTransfer : public InternalMovement {
   template <class C>
   static Members transfer_members(MemberGroup behind_audit = {}) {
     MemberGroup verbs = Members::group({
-        verb<&C::Save>("Save"),
-        verb<&C::SaveAsDraft>("SaveAsDraft"),
-        verb<&C::GetNewId>("GetNewId", out("BID")),
-        verb<&C::LoadById>("LoadById", in_out("BID")),
-        verb<&C::Delete>("Delete"),
-        verb<&C::UpdateAudited>("UpdateAudited"),
-        verb<&C::CancelAudited>("CancelAudited"),
+        saving_and_audit_by_status<C>(),
         std::move(behind_audit),
     });
     return movement_members<C>(
