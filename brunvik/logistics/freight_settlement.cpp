@@ -71,17 +71,16 @@ Long clsSendGoodsVouchersbill::status_to_save(Saving saving) const {
   return saving == Saving::draft ? status::draft : status_of_saved_voucher();
 }
 
-void clsSendGoodsVouchersbill::save_header(Saving saving) {
-  worker(saving == Saving::draft ? " SaveSGVBillForDraft(): " : " SaveSGVBill(): ",
-         [&] { Document::save_header(saving); });
-}
-
-void clsSendGoodsVouchersbill::insert_header(Long status) {
-  worker(" AddSGVBill(): ", [&] { Document::insert_header(status); });
-}
-
-void clsSendGoodsVouchersbill::update_header(Long status) {
-  worker(" UpdateSGVBill(): ", [&] { Document::update_header(status); });
+const WorkerTags& clsSendGoodsVouchersbill::tags() const {
+  static constexpr WorkerTags tags{.save_bill = " SaveSGVBill(): ",
+                                   .save_draft = " SaveSGVBillForDraft(): ",
+                                   .insert_header = " AddSGVBill(): ",
+                                   .update_header = " UpdateSGVBill(): ",
+                                   .read_header = " GetSGVBill(): ",
+                                   .read_rows = " GetSendGoodsVouchersbillItems(): ",
+                                   .remove_rows = " DeleteSendGoodsVouchersbillItems(): ",
+                                   .remove_header = " DeleteSGVBillAndItems(): "};
+  return tags;
 }
 
 void clsSendGoodsVouchersbill::save_rows() {
@@ -96,23 +95,9 @@ void clsSendGoodsVouchersbill::save_rows() {
   });
 }
 
-void clsSendGoodsVouchersbill::read_header() {
-  worker(" GetSGVBill(): ", [&] { Document::read_header(); });
-}
-
 void clsSendGoodsVouchersbill::read_rows() {
-  worker(" GetSendGoodsVouchersbillItems(): ", [&] {
-    colSGVItems.clear();
-    Document::read_rows();
-  });
-}
-
-void clsSendGoodsVouchersbill::remove_rows() {
-  worker(" DeleteSendGoodsVouchersbillItems(): ", [&] { Document::remove_rows(); });
-}
-
-void clsSendGoodsVouchersbill::remove_header() {
-  worker(" DeleteSGVBillAndItems(): ", [&] { Document::remove_header(); });
+  colSGVItems.clear();
+  TellingDocument::read_rows();
 }
 
 void clsSendGoodsVouchersbill::find_last(std::string& last, std::string_view) {
@@ -125,14 +110,6 @@ void clsSendGoodsVouchersbill::find_near(const std::string& current, std::string
         next ? execute(sql("select Min(Id) as Id from SendGoodsVouchersbill where id > {like}", current))
              : execute(sql("select Max(Id) as Id from SendGoodsVouchersbill where id < {like}", current)));
   });
-}
-
-Long clsSendGoodsVouchersbill::GetPreviousId(const std::string& CurBillID, std::string& PreviousId) noexcept {
-  return neighbour_in_series(CurBillID, PreviousId, false, {});
-}
-
-Long clsSendGoodsVouchersbill::GetNextId(const std::string& CurBillID, std::string& NextId) noexcept {
-  return neighbour_in_series(CurBillID, NextId, true, {});
 }
 
 Long clsSendGoodsVouchersbill::Audite(const std::string& auditor, const std::string& audit_time) noexcept {

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "brunvik/billframe/document.h"
+#include "brunvik/billframe/telling_document.h"
 
 namespace brunvik {
 
@@ -31,7 +31,7 @@ class FreightRow final : public PublicObject {
   const Members& members() const override { return table(); }
 };
 
-class clsSendGoodsVouchersbill final : public Document {
+class clsSendGoodsVouchersbill final : public TellingDocument<Document> {
  public:
   Collection<FreightRow> colSGVItems;
 
@@ -45,9 +45,8 @@ class clsSendGoodsVouchersbill final : public Document {
   Long Sxfbl = 0, Sxfzd = 0;
   std::string Dszh;
 
-  // The neighbours of a number, empty at the end.
-  Long GetPreviousId(const std::string& CurBillID, std::string& PreviousId) noexcept;
-  Long GetNextId(const std::string& CurBillID, std::string& NextId) noexcept;
+  using Bill::GetNextId;
+  using Bill::GetPreviousId;
 
   // Marks the stored document audited by these; the object stays as it is.
   Long Audite(const std::string& auditor = {}, const std::string& audit_time = {}) noexcept;
@@ -62,15 +61,10 @@ class clsSendGoodsVouchersbill final : public Document {
   const DocumentForm& form() const override;
   RowCollection& rows() override { return colSGVItems; }
 
+  const WorkerTags& tags() const override;
   Long status_to_save(Saving saving) const override;
-  void save_header(Saving saving) override;
-  void insert_header(Long status) override;
-  void update_header(Long status) override;
   void save_rows() override;
-  void read_header() override;
   void read_rows() override;
-  void remove_rows() override;
-  void remove_header() override;
   void find_last(std::string& last, std::string_view series) override;
   void find_near(const std::string& current, std::string& near, bool next, std::string_view series) override;
 };

@@ -85,16 +85,15 @@ const DocumentForm& clsSendGoodsBill::form() const {
   return form;
 }
 
-void clsSendGoodsBill::save_header(Saving saving) {
-  worker("SaveSendGoodsBill():", [&] { Document::save_header(saving); });
-}
-
-void clsSendGoodsBill::insert_header(Long status) {
-  worker("AddSendGoodsBill():", [&] { Document::insert_header(status); });
-}
-
-void clsSendGoodsBill::update_header(Long status) {
-  worker("UpdateSendGoodsBill():", [&] { Document::update_header(status); });
+const WorkerTags& clsSendGoodsBill::tags() const {
+  static constexpr WorkerTags tags{.save_bill = "SaveSendGoodsBill():",
+                                   .save_draft = "SaveSendGoodsBill():",
+                                   .insert_header = "AddSendGoodsBill():",
+                                   .update_header = "UpdateSendGoodsBill():",
+                                   .read_header = "GetSendGoodsBill():",
+                                   .read_rows = "GetSendGoodsBillItems():",
+                                   .remove_rows = "DeleteSendGoodsBillItems():"};
+  return tags;
 }
 
 void clsSendGoodsBill::save_rows() {
@@ -122,12 +121,8 @@ Value clsSendGoodsBill::SaveAsDraft(Long to) noexcept {
   });
 }
 
-void clsSendGoodsBill::read_header() {
-  worker("GetSendGoodsBill():", [&] { Document::read_header(); });
-}
-
 void clsSendGoodsBill::read_rows() {
-  worker("GetSendGoodsBillItems():", [&] { Document::read_rows(); });
+  TellingDocument::read_rows();
   worker("GetSendBillItems():", [&] {
     brunvik::read_rows<ShippedBillRow>(
         colSendBillItems, execute(sql("select * from SendBillItems  where BillId={} order by bid", ID)),
@@ -136,7 +131,7 @@ void clsSendGoodsBill::read_rows() {
 }
 
 void clsSendGoodsBill::remove_rows() {
-  worker("DeleteSendGoodsBillItems():", [&] { Document::remove_rows(); });
+  TellingDocument::remove_rows();
   worker("DeleteSendBillItems():", [&] { execute(sql("delete from SendBillItems where BillId={}", ID)); });
 }
 

@@ -10,12 +10,12 @@
 #include <string>
 #include <string_view>
 
-#include "brunvik/billframe/document.h"
+#include "brunvik/billframe/telling_document.h"
 #include "brunvik/logistics/shipment_row.h"
 
 namespace brunvik {
 
-class clsSendGoodsBill final : public Document {
+class clsSendGoodsBill final : public TellingDocument<Document> {
  public:
   Collection<ShipmentRow> colBillItems;
   Collection<ShippedBillRow> colSendBillItems;
@@ -60,11 +60,8 @@ class clsSendGoodsBill final : public Document {
   const DocumentForm& form() const override;
   RowCollection& rows() override { return colBillItems; }
 
-  void save_header(Saving saving) override;
-  void insert_header(Long status) override;
-  void update_header(Long status) override;
+  const WorkerTags& tags() const override;
   void save_rows() override;
-  void read_header() override;
   void read_rows() override;
   void remove_rows() override;
   void find_last(std::string& last, std::string_view series) override;

@@ -26,11 +26,6 @@ DocumentForm WarehouseRepairDocument::warehouse_repair_form(const Kind& kind) {
                         {});
 }
 
-std::string WarehouseRepairDocument::tag_text(std::string_view before, std::string_view behind) const {
-  constexpr std::string_view cls = "cls";
-  return std::string(before).append(kind().class_name.substr(cls.size())).append(behind).append("():");
-}
-
 // ------------------------------------------------------------------------------------------------------- the workers
 
 Long WarehouseRepairDocument::status_to_save(Saving saving) const {
@@ -38,51 +33,46 @@ Long WarehouseRepairDocument::status_to_save(Saving saving) const {
   return GetKeyFlag(audit_setting()) ? status::saved : status::audited;
 }
 
-void WarehouseRepairDocument::save_header(Saving saving) {
-  worker(tag("Save", saving == Saving::draft ? "ForSketch" : ""), [&] { Document::save_header(saving); });
+const WorkerTags& WarehouseRepairDocument::tags() const {
+  static constexpr WorkerTags tags{.save_bill = "Save{}():",
+                                   .save_draft = "Save{}ForSketch():",
+                                   .insert_header = "Add{}():",
+                                   .update_header = "Update{}():",
+                                   .save_rows = "Save{}Items():",
+                                   .read_header = "Get{}():",
+                                   .read_rows = "Get{}Items():",
+                                   .remove_rows = "Delete{}Items():",
+                                   .find_last = "GetLastId():",
+                                   .find_next = "GetNearId():",
+                                   .find_previous = "GetNearId():"};
+  return tags;
+}
+
+std::string WarehouseRepairDocument::shown(std::string_view tag) const {
+  constexpr std::string_view cls = "cls", place = "{}";
+  std::string text(tag);
+  if (const auto at = text.find(place); at != std::string::npos) {
+    text.replace(at, place.size(), kind().class_name.substr(cls.size()));
+  }
+  return text;
 }
 
 void WarehouseRepairDocument::insert_header(Long status) {
   saved_as_ = status;
-  worker(tag("Add"), [&] { Document::insert_header(status); });
+  TellingDocument::insert_header(status);
 }
 
 void WarehouseRepairDocument::update_header(Long status) {
   saved_as_ = status;
-  worker(tag("Update"), [&] { Document::update_header(status); });
-}
-
-void WarehouseRepairDocument::save_rows() {
-  worker(tag("Save", "Items"), [&] { Document::save_rows(); });
+  TellingDocument::update_header(status);
 }
 
 void WarehouseRepairDocument::save_row(const PublicObject& row) {
-  worker(tag("Add", "Items"), [&] {
+  telling("Add{}Items():", [&] {
     Document::save_row(row);
     const bool at_once = GetKeyValue(config::audit_of_warehouse) == "0";
     if (at_once && saved_as_ > status::draft) add_inventory(static_cast<const StockRow&>(row));
   });
-}
-
-void WarehouseRepairDocument::read_header() {
-  worker(tag("Get"), [&] { Document::read_header(); });
-}
-
-void WarehouseRepairDocument::read_rows() {
-  worker(tag("Get", "Items"), [&] { Document::read_rows(); });
-}
-
-void WarehouseRepairDocument::remove_rows() {
-  worker(tag("Delete", "Items"), [&] { Document::remove_rows(); });
-}
-
-void WarehouseRepairDocument::find_last(std::string& last, std::string_view series) {
-  worker("GetLastId():", [&] { Document::find_last(last, series); });
-}
-
-void WarehouseRepairDocument::find_near(const std::string& current, std::string& near, bool next,
-                                        std::string_view series) {
-  worker("GetNearId():", [&] { Document::find_near(current, near, next, series); });
 }
 
 void WarehouseRepairDocument::add_inventory(const StockRow& row) const {
@@ -102,7 +92,7 @@ void WarehouseRepairDocument::reduce_inventory() const {
 
 Long WarehouseRepairDocument::Delete() noexcept {
   return trap([&] {
-    worker(tag("Delete", "AndItems"), [&] {
+    telling("Delete{}AndItems():", [&] {
       if (GetKeyFlag(audit_setting())) reduce_inventory();
       remove_rows();
       remove_header();

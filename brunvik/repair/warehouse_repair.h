@@ -10,11 +10,12 @@
 #include <string>
 #include <string_view>
 
+#include "brunvik/billframe/telling_document.h"
 #include "brunvik/warehouse/warehouse_document.h"
 
 namespace brunvik {
 
-class WarehouseRepairDocument : public WarehouseDocument {
+class WarehouseRepairDocument : public TellingDocument<WarehouseDocument> {
  public:
   Collection<StockRow> colBillItems;
   std::string RManager;
@@ -45,11 +46,6 @@ class WarehouseRepairDocument : public WarehouseDocument {
   virtual void add_to_stock(const StockRow& row) const = 0;
   virtual void take_from_stock(const StockRow& row) const = 0;
 
-  // The name of a worker, which has that of the class in it, as a tag that is put together when it is shown.
-  auto tag(std::string_view before, std::string_view behind = {}) const {
-    return [this, before, behind] { return tag_text(before, behind); };
-  }
-
   // The balance of the row's goods in a state.
   bool has_balance(const StockRow& row, Long state) const;
   // Changes it by the row's Qty; where there is none, nothing changes.
@@ -60,21 +56,17 @@ class WarehouseRepairDocument : public WarehouseDocument {
   RowCollection& rows() override { return colBillItems; }
 
   Long status_to_save(Saving saving) const override;
-  void save_header(Saving saving) override;
+  const WorkerTags& tags() const override;
+
+  // The name of a worker has that of the class in it, in the place of {}.
+  std::string shown(std::string_view tag) const override;
+
   void insert_header(Long status) override;
   void update_header(Long status) override;
-  void save_rows() override;
   void save_row(const PublicObject& row) override;
-  void read_header() override;
-  void read_rows() override;
-  void remove_rows() override;
-  void find_last(std::string& last, std::string_view series) override;
-  void find_near(const std::string& current, std::string& near, bool next, std::string_view series) override;
 
  private:
   static const Members& table();
-
-  std::string tag_text(std::string_view before, std::string_view behind) const;
 
   void add_inventory(const StockRow& row) const;
   void reduce_inventory() const;

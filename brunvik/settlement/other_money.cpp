@@ -108,37 +108,21 @@ Long OtherMoneyDocument::status_to_save(Saving saving) const {
   return GetKeyFlag(config::audit_of_accounts) ? status::saved : status::audited;
 }
 
-void OtherMoneyDocument::save_header(Saving saving) {
-  worker(saving == Saving::draft ? " SaveOthersIEBillForSketch(): " : " SaveOthersIEBill(): ",
-         [&] { Document::save_header(saving); });
-}
-
-void OtherMoneyDocument::insert_header(Long status) {
-  worker(" AddOthersIEBill(): ", [&] { Document::insert_header(status); });
-}
-
-void OtherMoneyDocument::update_header(Long status) {
-  worker(" UpdateOthersIEBill(): ", [&] { Document::update_header(status); });
+const WorkerTags& OtherMoneyDocument::tags() const {
+  static constexpr WorkerTags tags{.save_bill = " SaveOthersIEBill(): ",
+                                   .save_draft = " SaveOthersIEBillForSketch(): ",
+                                   .insert_header = " AddOthersIEBill(): ",
+                                   .update_header = " UpdateOthersIEBill(): ",
+                                   .read_rows = " GetOthersIEBillItems(): ",
+                                   .remove_rows = " DeleteOthersIEBillItems(): ",
+                                   .find_last = " GetLastId(): ",
+                                   .find_next = " GetNearId(): ",
+                                   .find_previous = " GetNearId(): "};
+  return tags;
 }
 
 void OtherMoneyDocument::save_row(const PublicObject& row) {
   worker(" AddOthersInDbBillItems(): ", [&] { Document::save_row(row); });
-}
-
-void OtherMoneyDocument::read_rows() {
-  worker(" GetOthersIEBillItems(): ", [&] { Document::read_rows(); });
-}
-
-void OtherMoneyDocument::remove_rows() {
-  worker(" DeleteOthersIEBillItems(): ", [&] { Document::remove_rows(); });
-}
-
-void OtherMoneyDocument::find_last(std::string& last, std::string_view series) {
-  worker(" GetLastId(): ", [&] { Document::find_last(last, series); });
-}
-
-void OtherMoneyDocument::find_near(const std::string& current, std::string& near, bool next, std::string_view series) {
-  worker(" GetNearId(): ", [&] { Document::find_near(current, near, next, series); });
 }
 
 Long OtherMoneyDocument::UpdateAudited() noexcept { return change_status(true); }

@@ -7,7 +7,7 @@
 
 #include <string>
 
-#include "brunvik/billframe/document.h"
+#include "brunvik/billframe/telling_document.h"
 
 namespace brunvik {
 
@@ -25,7 +25,7 @@ class OtherMoneyRow final : public PublicObject {
   const Members& members() const override { return table(); }
 };
 
-class OtherMoneyDocument : public Document {
+class OtherMoneyDocument : public TellingDocument<Document> {
  public:
   Collection<OtherMoneyRow> colBillItems;
 
@@ -74,14 +74,8 @@ class OtherMoneyDocument : public Document {
 
   // Without the audit of accounts a bill is born audited, though its voucher has settled nothing.
   Long status_to_save(Saving saving) const override;
-  void save_header(Saving saving) override;
-  void insert_header(Long status) override;
-  void update_header(Long status) override;
+  const WorkerTags& tags() const override;
   void save_row(const PublicObject& row) override;
-  void read_rows() override;
-  void remove_rows() override;
-  void find_last(std::string& last, std::string_view series) override;
-  void find_near(const std::string& current, std::string& near, bool next, std::string_view series) override;
 
  private:
   Long change_status(bool audited) noexcept;
