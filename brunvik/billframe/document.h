@@ -28,6 +28,8 @@ struct DocumentForm {
 
 class Document : public Bill {
  protected:
+  using Form = DocumentForm;
+
   virtual const DocumentForm& form() const = 0;
   virtual RowCollection& rows() = 0;
 

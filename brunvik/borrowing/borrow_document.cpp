@@ -42,27 +42,28 @@ std::string assigned(std::string_view columns) {
 
 }  // namespace
 
-DocumentForm BorrowDocument::borrow_form(const Kind& kind, const Members& members, const Words& words) {
-  std::vector<ColumnSource> sources{constant("Type", kind.code.value()), argument("Status")};
-  if (words.closed_from_birth) sources.push_back(constant("ClosedTag", 1));
-  const std::string people(words.people), tail(words.tail);
-  const std::string closed = words.closed_from_birth ? "ClosedTag =" : "ClosedTag = ";
+DocumentForm BorrowDocument::made_form() const {
+  const Words& own = words();
+  std::vector<ColumnSource> sources{constant("Type", kind().code.value()), argument("Status")};
+  if (own.closed_from_birth) sources.push_back(constant("ClosedTag", 1));
+  const std::string people(own.people), tail(own.tail);
+  const std::string closed = own.closed_from_birth ? "ClosedTag =" : "ClosedTag = ";
   RowMembers read;
   for (const Member& member : BorrowRow::table()) read.push_back(&member);
-  return {{"select * from GBorrowBill where Id={}", "delete from GBorrowBill where Id={}", words.select_rows,
+  return {{"select * from GBorrowBill where Id={}", "delete from GBorrowBill where Id={}", own.select_rows,
            "delete from GBorrowItems where BillId={}"},
-          Insert(members, sources,
+          Insert(members(), sources,
                  "insert into GBorrowBill(Id,ManualId,Userflag," + people +
                      ",Creator,CreateTime,Type,InOutFlag,Status,[Auditor,AuditTime,]Amount,BillCost,ClosedTag,"
                      "ReferFlag,Referbillid,Summary,Remarks," +
                      tail + ") values("),
-          Update(members, sources,
+          Update(members(), sources,
                  "update GBorrowBill set ManualId = ,Userflag = ," + assigned(people) +
                      ",Type = ,InOutFlag = ,Status = ,[Auditor = ,AuditTime = ,]Amount = ,BillCost = ," + closed +
                      ",ReferFlag = ,Referbillid = ,Summary = ,Remarks = ," + assigned(tail) + " where Id="),
           Insert(BorrowRow::table(), {},
                  "insert into GBorrowItems(BillId,RowNum,GId,GBarcode,GName,Class,Model1,Model2,unit," +
-                     std::string(words.row_columns) + ") values("),
+                     std::string(own.row_columns) + ") values("),
           std::move(read)};
 }
 

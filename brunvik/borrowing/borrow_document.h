@@ -56,7 +56,7 @@ class BorrowDocument : public Document {
     bool closed_from_birth = false;
   };
   virtual const Words& words() const = 0;
-  static DocumentForm borrow_form(const Kind& kind, const Members& members, const Words& words);
+  DocumentForm made_form() const;
 
   RowCollection& rows() override { return colBillItems; }
 

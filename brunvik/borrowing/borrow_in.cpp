@@ -34,14 +34,4 @@ const BorrowDocument::Words& BorrowIn::words() const {
   return words;
 }
 
-const DocumentForm& clsBorrowIn::form() const {
-  static const DocumentForm form = borrow_form(kind(), members(), words());
-  return form;
-}
-
-const DocumentForm& clsBorrowInBjkc::form() const {
-  static const DocumentForm form = borrow_form(kind(), members(), words());
-  return form;
-}
-
 }  // namespace brunvik

@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "brunvik/billframe/class_of.h"
 #include "brunvik/borrowing/loan.h"
 
 namespace brunvik {
@@ -35,20 +36,8 @@ class BorrowIn : public Loan {
   Long taken_over_by() const override { return bill_type::purchase_receipt; }
 };
 
-class clsBorrowIn final : public BorrowIn {
- public:
-  const Kind& kind() const override { return kind::clsBorrowIn; }
+class clsBorrowIn final : public ClassOf<BorrowIn, kind::clsBorrowIn> {};
 
- protected:
-  const DocumentForm& form() const override;
-};
-
-class clsBorrowInBjkc final : public BorrowIn {
- public:
-  const Kind& kind() const override { return kind::clsBorrowInBjkc; }
-
- protected:
-  const DocumentForm& form() const override;
-};
+class clsBorrowInBjkc final : public ClassOf<BorrowIn, kind::clsBorrowInBjkc> {};
 
 }  // namespace brunvik

@@ -41,14 +41,4 @@ Long BorrowOut::UndoAuditSaveAsDraft(const std::string& BillId) noexcept {
   return trap([&] { take_back(status::draft, BillId); });
 }
 
-const DocumentForm& clsBorrowOut::form() const {
-  static const DocumentForm form = borrow_form(kind(), members(), words());
-  return form;
-}
-
-const DocumentForm& clsBorrowOutBjkc::form() const {
-  static const DocumentForm form = borrow_form(kind(), members(), words());
-  return form;
-}
-
 }  // namespace brunvik

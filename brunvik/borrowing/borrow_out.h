@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "brunvik/billframe/class_of.h"
 #include "brunvik/borrowing/loan.h"
 
 namespace brunvik {
@@ -42,20 +43,8 @@ class BorrowOut : public Loan {
   Long taken_over_by() const override { return bill_type::sales_issue; }
 };
 
-class clsBorrowOut final : public BorrowOut {
- public:
-  const Kind& kind() const override { return kind::clsBorrowOut; }
+class clsBorrowOut final : public ClassOf<BorrowOut, kind::clsBorrowOut> {};
 
- protected:
-  const DocumentForm& form() const override;
-};
-
-class clsBorrowOutBjkc final : public BorrowOut {
- public:
-  const Kind& kind() const override { return kind::clsBorrowOutBjkc; }
-
- protected:
-  const DocumentForm& form() const override;
-};
+class clsBorrowOutBjkc final : public ClassOf<BorrowOut, kind::clsBorrowOutBjkc> {};
 
 }  // namespace brunvik

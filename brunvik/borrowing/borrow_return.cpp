@@ -37,11 +37,6 @@ const BorrowDocument::Words& clsBorrowInReturn::words() const {
   return words;
 }
 
-const DocumentForm& clsBorrowInReturn::form() const {
-  static const DocumentForm form = borrow_form(kind(), members(), words());
-  return form;
-}
-
 // It asks for a whole record, unlike the other borrow documents.
 void clsBorrowInReturn::find_last(std::string& last, std::string_view) {
   last = aggregated_id(
@@ -68,11 +63,6 @@ const BorrowDocument::Words& clsBorrowOutReturn::words() const {
                                .select_rows = borrow_rows_by_supplier,
                                .closed_from_birth = true};
   return words;
-}
-
-const DocumentForm& clsBorrowOutReturn::form() const {
-  static const DocumentForm form = borrow_form(kind(), members(), words());
-  return form;
 }
 
 }  // namespace brunvik

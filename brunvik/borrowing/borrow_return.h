@@ -8,6 +8,7 @@
 
 #include <string>
 
+#include "brunvik/billframe/class_of.h"
 #include "brunvik/borrowing/borrow_document.h"
 
 namespace brunvik {
@@ -23,7 +24,7 @@ class BorrowReturn : public BorrowDocument {
 };
 
 // Its goods leave the Receiver of each row.
-class clsBorrowInReturn final : public BorrowReturn {
+class clsBorrowInReturn final : public ClassOf<BorrowReturn, kind::clsBorrowInReturn> {
  public:
   Long Deliverymethod = 0;
   // The person who sent the goods, and the lender.
@@ -36,17 +37,15 @@ class clsBorrowInReturn final : public BorrowReturn {
     return draw(Change::reduce, objBillItems, OutId);
   }
 
-  const Kind& kind() const override { return kind::clsBorrowInReturn; }
   const Members& members() const override;
 
  protected:
-  const DocumentForm& form() const override;
   const Words& words() const override;
   void find_last(std::string& last, std::string_view series) override;
 };
 
 // Its goods come into the Supplier of each row.
-class clsBorrowOutReturn final : public BorrowReturn {
+class clsBorrowOutReturn final : public ClassOf<BorrowReturn, kind::clsBorrowOutReturn> {
  public:
   // How the document came about, a code of the host.
   Long CreateFlag = 0;
@@ -60,11 +59,9 @@ class clsBorrowOutReturn final : public BorrowReturn {
     return draw(Change::reduce, objBillItems, OutId);
   }
 
-  const Kind& kind() const override { return kind::clsBorrowOutReturn; }
   const Members& members() const override;
 
  protected:
-  const DocumentForm& form() const override;
   const Words& words() const override;
 };
 

@@ -66,9 +66,9 @@ Members PurchaseReceipt::receipt_members(const Kind& kind) {
   };
 }
 
-DocumentForm PurchaseReceipt::receipt_form(const Kind& kind, const Members& members) {
+DocumentForm PurchaseReceipt::made_form() const {
   return stock_form(
-      kind, members, WarehouseColumn::Receiver,
+      kind(), members(), WarehouseColumn::Receiver,
       "insert into StockBill(Id,ManualId,Supplier,RManager,Salesman,Creator,CreateTime,Type,InOutFlag,Status,"
       "[Auditor,AuditTime,]PaidAmount,<AdvanceAmount,>CloseAmount,Amount,ClosedTag,ReferFlag,Referbillid,"
       "Nowpaybillid,<NowAdvanceBillID,>Summary,Remarks,CreateFlag) values(",
@@ -89,16 +89,6 @@ const Members& clsPurchaseInBill::members() const {
 const Members& clsPurchaseInBjkcBill::members() const {
   static const Members table = receipt_members(kind());
   return table;
-}
-
-const DocumentForm& clsPurchaseInBill::form() const {
-  static const DocumentForm form = receipt_form(kind(), members());
-  return form;
-}
-
-const DocumentForm& clsPurchaseInBjkcBill::form() const {
-  static const DocumentForm form = receipt_form(kind(), members());
-  return form;
 }
 
 Long PurchaseReceipt::LoadById(const std::string& BID, Long lRowNum, bool bDHBJ) noexcept {

@@ -2,6 +2,7 @@
 // the debt to the vendor opens, and what was paid at the counter is audited with it.
 #pragma once
 
+#include "brunvik/billframe/class_of.h"
 #include "brunvik/stock/trade_document.h"
 
 namespace brunvik {
@@ -42,7 +43,7 @@ class PurchaseReceipt : public TradeDocument {
   Money AdvanceAmount;
 
   static Members receipt_members(const Kind& kind);
-  static DocumentForm receipt_form(const Kind& kind, const Members& members);
+  DocumentForm made_form() const;
 
   FinishRow finish_row() const override;
   const Operation<StockRow>* stock_operation() const override { return &operation::StockIn; }
@@ -52,25 +53,17 @@ class PurchaseReceipt : public TradeDocument {
   void read_rows_of(Long row_number, bool with_arrivals);
 };
 
-class clsPurchaseInBill final : public PurchaseReceipt {
+class clsPurchaseInBill final : public ClassOf<PurchaseReceipt, kind::clsPurchaseInBill> {
  public:
   using PurchaseReceipt::AdvanceAmount;
   using PurchaseReceipt::NowAdvanceBillID;
 
-  const Kind& kind() const override { return kind::clsPurchaseInBill; }
   const Members& members() const override;
-
- protected:
-  const DocumentForm& form() const override;
 };
 
-class clsPurchaseInBjkcBill final : public PurchaseReceipt {
+class clsPurchaseInBjkcBill final : public ClassOf<PurchaseReceipt, kind::clsPurchaseInBjkcBill> {
  public:
-  const Kind& kind() const override { return kind::clsPurchaseInBjkcBill; }
   const Members& members() const override;
-
- protected:
-  const DocumentForm& form() const override;
 };
 
 }  // namespace brunvik

@@ -43,9 +43,9 @@ const Members& PurchaseReturn::table() {
   return table;
 }
 
-DocumentForm PurchaseReturn::return_form(const Kind& kind) {
+DocumentForm PurchaseReturn::made_form() const {
   return stock_form(
-      kind, table(), WarehouseColumn::Supplier,
+      kind(), table(), WarehouseColumn::Supplier,
       "insert into StockBill(Id,ManualId,Receiver,SManager,Salesman,Creator,CreateTime,Type,InOutFlag,Status,"
       "[Auditor,AuditTime,]PaidAmount,CloseAmount,Amount,DeliveryMethod,ClosedTag,ReferFlag,NowpayBillId,Summary,"
       "Remarks) values(",
@@ -55,16 +55,6 @@ DocumentForm PurchaseReturn::return_form(const Kind& kind) {
       "insert into StockBillItems(BillId,RowNum,GId,GBarcode,GName,Class,Model1,Model2,unit,qty,Actualqty,price,"
       "Amount,Supplier,remarks,GoodStutas) values(",
       {from("ActualQty", "Qty"), constant("GoodStutas", stock_status::sound)});
-}
-
-const DocumentForm& clsPurchaseOutBill::form() const {
-  static const DocumentForm form = return_form(kind());
-  return form;
-}
-
-const DocumentForm& clsPurchaseOutBjkcBill::form() const {
-  static const DocumentForm form = return_form(kind());
-  return form;
 }
 
 Long PurchaseReturn::Audit() noexcept {

@@ -2,6 +2,7 @@
 // receipt: its audit takes the rows out of the average at their own price, its undo takes them in again.
 #pragma once
 
+#include "brunvik/billframe/class_of.h"
 #include "brunvik/stock/trade_document.h"
 
 namespace brunvik {
@@ -24,25 +25,13 @@ class PurchaseReturn : public TradeDocument {
 
  protected:
   static const Members& table();
-  static DocumentForm return_form(const Kind& kind);
+  DocumentForm made_form() const;
 
   const Operation<StockRow>* stock_operation() const override { return &operation::StockOut; }
 };
 
-class clsPurchaseOutBill final : public PurchaseReturn {
- public:
-  const Kind& kind() const override { return kind::clsPurchaseOutBill; }
+class clsPurchaseOutBill final : public ClassOf<PurchaseReturn, kind::clsPurchaseOutBill> {};
 
- protected:
-  const DocumentForm& form() const override;
-};
-
-class clsPurchaseOutBjkcBill final : public PurchaseReturn {
- public:
-  const Kind& kind() const override { return kind::clsPurchaseOutBjkcBill; }
-
- protected:
-  const DocumentForm& form() const override;
-};
+class clsPurchaseOutBjkcBill final : public ClassOf<PurchaseReturn, kind::clsPurchaseOutBjkcBill> {};
 
 }  // namespace brunvik

@@ -14,9 +14,9 @@ const Members& GoodsAllocation::members() const {
   return table;
 }
 
-DocumentForm GoodsAllocation::allocation_form(const Kind& kind, const Members& members) {
-  const std::vector<ColumnSource> sources{constant("processFlag", kind.code.value()), constant("InOutFlag", kind.side),
-                                          argument("Status")};
+DocumentForm GoodsAllocation::made_form() const {
+  const std::vector<ColumnSource> sources{constant("processFlag", kind().code.value()),
+                                          constant("InOutFlag", kind().side), argument("Status")};
   Insert insert_row(StockRow::table(), {},
                     "insert into RgStockBillItems(BillId,RowNum,GId,GBarcode,GName,Class,Model1,Model2,unit,qty,price,"
                     "Amount,remarks) values(");
@@ -24,10 +24,10 @@ DocumentForm GoodsAllocation::allocation_form(const Kind& kind, const Members& m
   return {{"select * from RGStockBill where Id={}", "delete from RGstockbill where Id={}",
            "select * from RGStockBillItems where BillId={} order by rownum",
            "delete from RGStockBillItems where BillId={}"},
-          Insert(members, sources,
+          Insert(members(), sources,
                  "insert into RGStockBill(Id,ManualId,Supplier,Receiver,RManager,SManager,Creator,CreateTime,"
                  "processFlag,InOutFlag,Status,[Auditor,AuditTime,]ReferFlag,Summary,Remarks) values("),
-          Update(members, sources,
+          Update(members(), sources,
                  "update RGstockbill set ManualId = ,Supplier = ,Receiver = ,RManager = ,SManager = ,processFlag = ,"
                  "InOutFlag = ,Status = ,[Auditor = ,AuditTime = ,]ReferFlag = ,Summary = ,Remarks =  where Id="),
           std::move(insert_row),
@@ -95,19 +95,9 @@ void GoodsAllocation::find_near(const std::string& current, std::string& near, b
           : execute(sql("select Max(Id) as Id from RGStockBill where Id < {like} and processflag ={}", current, code)));
 }
 
-const DocumentForm& clsBrokenAllocate::form() const {
-  static const DocumentForm form = allocation_form(kind(), members());
-  return form;
-}
-
 void clsBrokenAllocate::take_back() {
   for_each_row_backwards(
       colBillItems, [&](const PublicObject& row) { poster().Undo(movement(), static_cast<const StockRow&>(row)); });
-}
-
-const DocumentForm& clsRestoreAllocate::form() const {
-  static const DocumentForm form = allocation_form(kind(), members());
-  return form;
 }
 
 void clsRestoreAllocate::take_back() {

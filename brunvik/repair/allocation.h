@@ -12,6 +12,7 @@
 
 #include <string>
 
+#include "brunvik/billframe/class_of.h"
 #include "brunvik/warehouse/transfer.h"
 
 namespace brunvik {
@@ -37,7 +38,7 @@ class GoodsAllocation : public WarehouseTransfer {
   static Operation<StockRow> movement(std::string_view supplier, std::string_view receiver, Long state);
   Operation<StockRow> movement() const { return movement(Supplier, Receiver, goods_state()); }
 
-  static DocumentForm allocation_form(const Kind& kind, const Members& members);
+  DocumentForm made_form() const;
   StatementText<4> mark_statement() const override;
   Long status_to_save(Saving saving) const override;
   void update_header(Long status) override;
@@ -48,23 +49,15 @@ class GoodsAllocation : public WarehouseTransfer {
 };
 
 // Of broken goods. Its undo takes the rows of the object back, from the last to the first.
-class clsBrokenAllocate final : public GoodsAllocation {
- public:
-  const Kind& kind() const override { return kind::clsBrokenAllocate; }
-
+class clsBrokenAllocate final : public ClassOf<GoodsAllocation, kind::clsBrokenAllocate> {
  protected:
-  const DocumentForm& form() const override;
   Long goods_state() const override { return stock_status::broken; }
   void take_back() override;
 };
 
 // Of repaired goods. Its undo takes the stored rows back, between the warehouses of the stored header.
-class clsRestoreAllocate final : public GoodsAllocation {
- public:
-  const Kind& kind() const override { return kind::clsRestoreAllocate; }
-
+class clsRestoreAllocate final : public ClassOf<GoodsAllocation, kind::clsRestoreAllocate> {
  protected:
-  const DocumentForm& form() const override;
   Long goods_state() const override { return stock_status::repaired; }
   void take_back() override;
 };

@@ -28,9 +28,9 @@ const Members& CustomerReturn::table() {
 }
 
 // A payment is stored with an audited document alone.
-DocumentForm CustomerReturn::return_form(const Kind& kind, std::string_view own_columns) {
+DocumentForm CustomerReturn::made_form() const {
   return repair_form(
-      kind, table(),
+      kind(), table(),
       {.insert = "insert into RGStockBill(Id,ManualId,Receiver,ProcessFlag,Salesman,SManager,Invoicename,Invoicetype,"
                  "Taxrate,Deliverymethod,Closedtag,Amount,PayMethod,Paidamount,Closeamount,DiscountType,DiscountCard,"
                  "DiscountRate,InOutFlag,Status,Creator,CreateTime,Summary,Remarks,NowPayBillId[,Auditor,AuditTime]) "
@@ -42,18 +42,8 @@ DocumentForm CustomerReturn::return_form(const Kind& kind, std::string_view own_
        .insert_row = "Insert into RGStockBillItems(BillId,RowNum,GId,GName,GBarcode,Class,Model1,Model2,unit,qty,price,"
                      "Amount,StoreHouse,BrokenDspt,FixMeans,remarks,OutFactoryDate,Equipcode,Buydate,GuanLianBill,"
                      "DYRowNum" +
-                     std::string(own_columns) + ") values( ",
+                     std::string(own_row_columns()) + ") values( ",
        .header_sources = {constant_unless_audited("Paidamount", 0)}});
-}
-
-const DocumentForm& clsRGStockFhgk::form() const {
-  static const DocumentForm form = return_form(kind());
-  return form;
-}
-
-const DocumentForm& clsRGStockDhgk::form() const {
-  static const DocumentForm form = return_form(kind(), ",DYGId");
-  return form;
 }
 
 void CustomerReturn::audit_money() const { audit_voucher<clsReceiptBill>(Nowpaybillid); }

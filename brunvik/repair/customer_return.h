@@ -30,7 +30,7 @@ class CustomerReturn : public RepairReturn {
   using RepairReturn::RepairReturn;
 
   static const Members& table();
-  static DocumentForm return_form(const Kind& kind, std::string_view own_columns = {});
+  DocumentForm made_form() const;
 
   Operations stock_operations() const override { return {&operation::RestoredOut, 1}; }
   void audit_money() const override;
@@ -44,25 +44,13 @@ class CustomerReturn : public RepairReturn {
   Long tax_rate_ = 0;
 };
 
-class clsRGStockFhgk final : public CustomerReturn {
- public:
-  clsRGStockFhgk() : CustomerReturn(kind::clsRGStockFhgk) {}
-
-  const Kind& kind() const override { return kind::clsRGStockFhgk; }
-
+class clsRGStockFhgk final : public RepairClassOf<CustomerReturn, kind::clsRGStockFhgk> {
  protected:
-  const DocumentForm& form() const override;
   bool is_replacement() const override { return false; }
 };
 
-class clsRGStockDhgk final : public CustomerReturn {
- public:
-  clsRGStockDhgk() : CustomerReturn(kind::clsRGStockDhgk) {}
-
-  const Kind& kind() const override { return kind::clsRGStockDhgk; }
-
+class clsRGStockDhgk final : public RepairClassOf<CustomerReturn, kind::clsRGStockDhgk> {
  protected:
-  const DocumentForm& form() const override;
   bool is_replacement() const override { return true; }
 };
 

@@ -18,9 +18,9 @@ const Members& FactoryDispatch::table() {
 }
 
 // What is broken and how it is to be repaired isn't read back: a document that is loaded and saved again loses both.
-DocumentForm FactoryDispatch::dispatch_form(const Kind& kind) {
+DocumentForm FactoryDispatch::made_form() const {
   return repair_form(
-      kind, table(),
+      kind(), table(),
       {.insert = "insert into RGStockBill(Id,ManualId,Receiver,ProcessFlag,SManager,Deliverymethod,InOutFlag,Status,"
                  "Creator,CreateTime,Summary,Remarks,[Auditor,AuditTime,]QtyStutas,BaoXiuDate) values(",
        .update = "Update RGStockBill set ManualId = ,Receiver = ,ProcessFlag = ,SManager = ,Deliverymethod = ,"
@@ -28,16 +28,6 @@ DocumentForm FactoryDispatch::dispatch_form(const Kind& kind) {
        .insert_row = "Insert into RGStockBillItems(BillId,RowNum,GId,GName,GBarcode,Class,Model1,Model2,unit,qty,price,"
                      "Amount,StoreHouse,EquipCode,OutFactoryDate,BuyDate,BrokenDspt,FixMeans,remarks,YfQty) values( ",
        .unread = {"BrokenDspt", "FixMeans"}});
-}
-
-const DocumentForm& clsRGStockFcwx::form() const {
-  static const DocumentForm form = dispatch_form(kind());
-  return form;
-}
-
-const DocumentForm& clsRGStockFcwxBjkc::form() const {
-  static const DocumentForm form = dispatch_form(kind());
-  return form;
 }
 
 }  // namespace brunvik

@@ -23,29 +23,15 @@ class FactoryDispatch : public RepairDocument {
   using RepairDocument::RepairDocument;
 
   static const Members& table();
-  static DocumentForm dispatch_form(const Kind& kind);
+  DocumentForm made_form() const;
 };
 
-class clsRGStockFcwx final : public FactoryDispatch {
- public:
-  clsRGStockFcwx() : FactoryDispatch(kind::clsRGStockFcwx) {}
-
-  const Kind& kind() const override { return kind::clsRGStockFcwx; }
-
+class clsRGStockFcwx final : public RepairClassOf<FactoryDispatch, kind::clsRGStockFcwx> {
  protected:
-  const DocumentForm& form() const override;
   Operations stock_operations() const override { return {&operation::FactoryOut, 1}; }
 };
 
 // What lay at the factory when the books were opened: it never touches the stock.
-class clsRGStockFcwxBjkc final : public FactoryDispatch {
- public:
-  clsRGStockFcwxBjkc() : FactoryDispatch(kind::clsRGStockFcwxBjkc) {}
-
-  const Kind& kind() const override { return kind::clsRGStockFcwxBjkc; }
-
- protected:
-  const DocumentForm& form() const override;
-};
+class clsRGStockFcwxBjkc final : public RepairClassOf<FactoryDispatch, kind::clsRGStockFcwxBjkc> {};
 
 }  // namespace brunvik

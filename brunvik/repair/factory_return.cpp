@@ -20,9 +20,9 @@ const Members& FactoryReturn::table() {
   return table;
 }
 
-DocumentForm FactoryReturn::return_form(const Kind& kind, std::string_view own_columns) {
+DocumentForm FactoryReturn::made_form() const {
   return repair_form(
-      kind, table(),
+      kind(), table(),
       {.insert = "insert into RGStockBill(Id,ManualId,Supplier,ProcessFlag,RManager,Amount,Paidamount,Closeamount,"
                  "InOutFlag,Status,Creator,CreateTime,Summary,Remarks,NowPayBillId,[Auditor,AuditTime,]ClosedTag) "
                  "values(",
@@ -32,17 +32,7 @@ DocumentForm FactoryReturn::return_form(const Kind& kind, std::string_view own_c
        .insert_row = "Insert into RGStockBillItems(BillId,RowNum,GId,GName,GBarcode,Class,Model1,Model2,unit,qty,price,"
                      "Amount,StoreHouse,BrokenDspt,FixMeans,OutFactoryDate,Buydate,EquipCode,Accessory,Remarks,"
                      "GuanLianBill,DYRowNum" +
-                     std::string(own_columns) + ") values("});
-}
-
-const DocumentForm& clsRGStockSxfh::form() const {
-  static const DocumentForm form = return_form(kind());
-  return form;
-}
-
-const DocumentForm& clsRGStockSxDh::form() const {
-  static const DocumentForm form = return_form(kind(), ",DYGId");
-  return form;
+                     std::string(own_row_columns()) + ") values("});
 }
 
 void FactoryReturn::audit_money() const {

@@ -17,7 +17,7 @@ class FactoryReturn : public RepairReturn {
   using RepairReturn::RepairReturn;
 
   static const Members& table();
-  static DocumentForm return_form(const Kind& kind, std::string_view own_columns = {});
+  DocumentForm made_form() const;
 
   Operations stock_operations() const override { return {&operation::FactoryBack, 1}; }
 
@@ -26,25 +26,13 @@ class FactoryReturn : public RepairReturn {
   void undo_money() const override;
 };
 
-class clsRGStockSxfh final : public FactoryReturn {
- public:
-  clsRGStockSxfh() : FactoryReturn(kind::clsRGStockSxfh) {}
-
-  const Kind& kind() const override { return kind::clsRGStockSxfh; }
-
+class clsRGStockSxfh final : public RepairClassOf<FactoryReturn, kind::clsRGStockSxfh> {
  protected:
-  const DocumentForm& form() const override;
   bool is_replacement() const override { return false; }
 };
 
-class clsRGStockSxDh final : public FactoryReturn {
- public:
-  clsRGStockSxDh() : FactoryReturn(kind::clsRGStockSxDh) {}
-
-  const Kind& kind() const override { return kind::clsRGStockSxDh; }
-
+class clsRGStockSxDh final : public RepairClassOf<FactoryReturn, kind::clsRGStockSxDh> {
  protected:
-  const DocumentForm& form() const override;
   bool is_replacement() const override { return true; }
 };
 

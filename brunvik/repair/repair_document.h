@@ -13,6 +13,7 @@
 #include <string_view>
 #include <vector>
 
+#include "brunvik/billframe/class_of.h"
 #include "brunvik/billframe/document.h"
 #include "brunvik/repair/repair_row.h"
 #include "brunvik/stock/stock_movement.h"
@@ -115,6 +116,13 @@ class RepairDocument : public Document {
   void post(const RepairRow& row);
 
   Integer process_flag_;
+};
+
+// A class of one of these families, whose kind says the ProcessFlag that its objects begin with.
+template <class Family, const Kind& its_kind>
+class RepairClassOf : public ClassOf<Family, its_kind> {
+ protected:
+  RepairClassOf() : ClassOf<Family, its_kind>(its_kind) {}
 };
 
 }  // namespace brunvik

@@ -55,9 +55,14 @@ Members RepairIntake::intake_members(MemberGroup behind_connection, MemberGroup 
   });
 }
 
-DocumentForm RepairIntake::intake_form(const Kind& kind, const Members& members, std::string_view own_columns) {
+const Members& RepairIntake::members() const {
+  static const Members table = intake_members();
+  return table;
+}
+
+DocumentForm RepairIntake::made_form() const {
   return repair_form(
-      kind, members,
+      kind(), members(),
       {.insert = "insert into RGStockBill(Id,ManualId,Supplier,ProcessFlag,Salesman,RManager,FixType,NeedDays,"
                  "InOutFlag,Status,Creator,CreateTime,Summary,Remarks,[Auditor,AuditTime,]QtyStutas,BaoXiuDate) "
                  "values(",
@@ -66,8 +71,8 @@ DocumentForm RepairIntake::intake_form(const Kind& kind, const Members& members,
                  "NeedDays = ,Status = ,Summary = ,Remarks = ,[Auditor = ,AuditTime = ,]BaoXiuDate =  where Id=",
        .insert_row = "Insert into RGStockBillItems(BillId,RowNum,GId,GName,GBarcode,Class,Model1,Model2,unit,qty,price,"
                      "Amount,StoreHouse,BrokenDspt,FixMeans,OutFactoryDate,EquipCode,BuyDate,Accessory,remarks,YfQty" +
-                     std::string(own_columns) + ") values( ",
-       .reads_rows_in_order = !kind.opening});
+                     std::string(own_row_columns()) + ") values( ",
+       .reads_rows_in_order = !kind().opening});
 }
 
 const Members& clsRGStockBxrk::members() const {
@@ -85,31 +90,6 @@ const Members& clsRGStockBxrk::members() const {
                          verb<&C::SaveRGBxrkSaleInLists>("SaveRGBxrkSaleInLists", in("RGBxrkSaleInLists")),
                      });
   return table;
-}
-
-const Members& clsRGStockBxrkBjkc::members() const {
-  static const Members table = intake_members();
-  return table;
-}
-
-const Members& clsRGStockWxdh::members() const {
-  static const Members table = intake_members();
-  return table;
-}
-
-const DocumentForm& clsRGStockBxrk::form() const {
-  static const DocumentForm form = intake_form(kind(), members());
-  return form;
-}
-
-const DocumentForm& clsRGStockBxrkBjkc::form() const {
-  static const DocumentForm form = intake_form(kind(), members());
-  return form;
-}
-
-const DocumentForm& clsRGStockWxdh::form() const {
-  static const DocumentForm form = intake_form(kind(), members(), ",OutHouse");
-  return form;
 }
 
 Long clsRGStockBxrk::GetRGBxrkSaleInBillItems(const std::string& RGBxrkId, const std::string& SaleInId) noexcept {

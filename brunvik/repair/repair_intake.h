@@ -25,19 +25,21 @@ class RepairIntake : public RepairDocument {
 
   using RepairDocument::GetRgStockBillitems;
 
+  const Members& members() const override;
+
  protected:
   using RepairDocument::RepairDocument;
 
   static Members intake_members(MemberGroup behind_connection = {}, MemberGroup verbs = {});
 
-  // `own_columns` stand behind YfQty in the row.
-  static DocumentForm intake_form(const Kind& kind, const Members& members, std::string_view own_columns = {});
+  DocumentForm made_form() const;
+
+  // What stands behind YfQty in the row insert's columns.
+  virtual std::string_view own_row_columns() const { return {}; }
 };
 
-class clsRGStockBxrk final : public RepairIntake {
+class clsRGStockBxrk final : public RepairClassOf<RepairIntake, kind::clsRGStockBxrk> {
  public:
-  clsRGStockBxrk() : RepairIntake(kind::clsRGStockBxrk) {}
-
   // The links of this intake to one sales return, through which its goods went back; filled on demand.
   Collection<RGBxrkSaleInList> colSaleInItems;
 
@@ -65,36 +67,19 @@ class clsRGStockBxrk final : public RepairIntake {
 
   Long SaveRGBxrkSaleInLists(const Collection<RGBxrkSaleInList>& RGBxrkSaleInLists) noexcept;
 
-  const Kind& kind() const override { return kind::clsRGStockBxrk; }
   const Members& members() const override;
 
  protected:
-  const DocumentForm& form() const override;
   Operations stock_operations() const override { return {&operation::RepairIn, 1}; }
 };
 
 // What lay in the shop when the books were opened: it never touches the stock.
-class clsRGStockBxrkBjkc final : public RepairIntake {
- public:
-  clsRGStockBxrkBjkc() : RepairIntake(kind::clsRGStockBxrkBjkc) {}
-
-  const Kind& kind() const override { return kind::clsRGStockBxrkBjkc; }
-  const Members& members() const override;
-
- protected:
-  const DocumentForm& form() const override;
-};
+class clsRGStockBxrkBjkc final : public RepairClassOf<RepairIntake, kind::clsRGStockBxrkBjkc> {};
 
 // The broken item comes in, and a repaired one is given for it.
-class clsRGStockWxdh final : public RepairIntake {
- public:
-  clsRGStockWxdh() : RepairIntake(kind::clsRGStockWxdh) {}
-
-  const Kind& kind() const override { return kind::clsRGStockWxdh; }
-  const Members& members() const override;
-
+class clsRGStockWxdh final : public RepairClassOf<RepairIntake, kind::clsRGStockWxdh> {
  protected:
-  const DocumentForm& form() const override;
+  std::string_view own_row_columns() const override { return ",OutHouse"; }
   Operations stock_operations() const override {
     static constexpr std::array operations{operation::RepairIn, operation::ExchangeOut};
     return operations;

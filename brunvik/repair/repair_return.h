@@ -27,6 +27,9 @@ class RepairReturn : public RepairDocument {
   // A replacement gives other goods than those of the row drawn on, and names these in DYGId.
   virtual bool is_replacement() const = 0;
 
+  // What stands at the end of the row insert's columns.
+  std::string_view own_row_columns() const { return is_replacement() ? ",DYGId" : ""; }
+
   // Neither raising nor marking holds the document up: each tells the user of its own error.
   void row_posted(const RepairRow& row) override;
   void row_undone(const RepairRow& row) override;

@@ -19,8 +19,8 @@ const Members& WarehouseRepairDocument::table() {
   return table;
 }
 
-DocumentForm WarehouseRepairDocument::warehouse_repair_form(const Kind& kind) {
-  return warehouse_form(kind, table(), "Rmanager", WarehouseColumn::Receiver,
+DocumentForm WarehouseRepairDocument::made_form() const {
+  return warehouse_form(kind(), table(), "Rmanager", WarehouseColumn::Receiver,
                         "insert into StockBillItems(BillId,RowNum,GId,GBarcode,GName,Class,Model1,Model2,unit,"
                         "ActualQty,qty,price,Amount,Receiver,Equipcode,Accessory,remarks) values(",
                         {});
@@ -131,11 +131,6 @@ void WarehouseRepairDocument::change_balance(const StockRow& row, Long state, St
               std::string_view(settings), row.Receiver, row.Gid, row.Model1, row.Model2, state));
 }
 
-const DocumentForm& clsWareHouseRepairBill::form() const {
-  static const DocumentForm form = warehouse_repair_form(kind());
-  return form;
-}
-
 std::string_view clsWareHouseRepairBill::audit_setting() const { return config::audit_of_trade; }
 
 void clsWareHouseRepairBill::add_to_stock(const StockRow& row) const {
@@ -154,11 +149,6 @@ void clsWareHouseRepairBill::add_to_stock(const StockRow& row) const {
 void clsWareHouseRepairBill::take_from_stock(const StockRow& row) const {
   change_balance(row, stock_status::sound, "OutQty = OutQty - {},CurrentQty = CurrentQty+{}");
   change_balance(row, stock_status::broken, "InQty = InQty - {},CurrentQty = CurrentQty-{}");
-}
-
-const DocumentForm& clsWareHouseRestoreBill::form() const {
-  static const DocumentForm form = warehouse_repair_form(kind());
-  return form;
 }
 
 std::string_view clsWareHouseRestoreBill::audit_setting() const { return config::audit_of_warehouse; }

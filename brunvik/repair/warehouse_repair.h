@@ -10,6 +10,7 @@
 #include <string>
 #include <string_view>
 
+#include "brunvik/billframe/class_of.h"
 #include "brunvik/billframe/telling_document.h"
 #include "brunvik/warehouse/warehouse_document.h"
 
@@ -52,7 +53,7 @@ class WarehouseRepairDocument : public TellingDocument<WarehouseDocument> {
   void change_balance(const StockRow& row, Long state, StatementText<2> change) const;
 
   const DocumentForm& form() const override = 0;
-  static DocumentForm warehouse_repair_form(const Kind& kind);
+  DocumentForm made_form() const;
   RowCollection& rows() override { return colBillItems; }
 
   Long status_to_save(Saving saving) const override;
@@ -77,12 +78,8 @@ class WarehouseRepairDocument : public TellingDocument<WarehouseDocument> {
 
 // New goods found broken: they leave state 0 and come into state 1. Where state 0 has a balance and state 1 has none,
 // they leave and arrive nowhere.
-class clsWareHouseRepairBill final : public WarehouseRepairDocument {
- public:
-  const Kind& kind() const override { return kind::clsWareHouseRepairBill; }
-
+class clsWareHouseRepairBill final : public ClassOf<WarehouseRepairDocument, kind::clsWareHouseRepairBill> {
  protected:
-  const DocumentForm& form() const override;
   std::string_view audit_setting() const override;
   void add_to_stock(const StockRow& row) const override;
   void take_from_stock(const StockRow& row) const override;
@@ -90,12 +87,8 @@ class clsWareHouseRepairBill final : public WarehouseRepairDocument {
 
 // Broken goods repaired: from state 1 into state 2. The columns of what came in and what went out are kept the other
 // way round here, and a balance that is laid in state 1 counts up where one that is there counts down.
-class clsWareHouseRestoreBill final : public WarehouseRepairDocument {
- public:
-  const Kind& kind() const override { return kind::clsWareHouseRestoreBill; }
-
+class clsWareHouseRestoreBill final : public ClassOf<WarehouseRepairDocument, kind::clsWareHouseRestoreBill> {
  protected:
-  const DocumentForm& form() const override;
   std::string_view audit_setting() const override;
   void add_to_stock(const StockRow& row) const override;
   void take_from_stock(const StockRow& row) const override;

@@ -57,9 +57,9 @@ Members SalesIssue::issue_members(const Kind& kind) {
   };
 }
 
-DocumentForm SalesIssue::issue_form(const Kind& kind, const Members& members) {
+DocumentForm SalesIssue::made_form() const {
   return stock_form(
-      kind, members, WarehouseColumn::Supplier,
+      kind(), members(), WarehouseColumn::Supplier,
       "insert into StockBill(Id,ManualId,Receiver,SManager,Salesman,Creator,CreateTime,Type,InOutFlag,Status,"
       "[Auditor,AuditTime,]PaidAmount,<AdvanceAmount,>CloseAmount,Amount,InvoiceName,InvoiceType,TaxRate,"
       "DiscountType,DiscountCard,DiscountRate,DeliveryMethod,ClosedTag,CreateFlag,ReferFlag,Referbillid,"
@@ -82,16 +82,6 @@ const Members& clsSalesOutBill::members() const {
 const Members& clsSalesOutBjkcBill::members() const {
   static const Members table = issue_members(kind());
   return table;
-}
-
-const DocumentForm& clsSalesOutBill::form() const {
-  static const DocumentForm form = issue_form(kind(), members());
-  return form;
-}
-
-const DocumentForm& clsSalesOutBjkcBill::form() const {
-  static const DocumentForm form = issue_form(kind(), members());
-  return form;
 }
 
 Long SalesIssue::LoadLast(const std::string& sIDQZ) noexcept { return load_last_of_series(sIDQZ); }

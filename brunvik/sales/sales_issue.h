@@ -2,6 +2,7 @@
 // the customer's debt opens, and money taken at the counter is audited with it.
 #pragma once
 
+#include "brunvik/billframe/class_of.h"
 #include "brunvik/sales/sales_document.h"
 
 namespace brunvik {
@@ -44,7 +45,7 @@ class SalesIssue : public SalesDocument {
   Money AdvanceAmount;
 
   static Members issue_members(const Kind& kind);
-  static DocumentForm issue_form(const Kind& kind, const Members& members);
+  DocumentForm made_form() const;
 
   void audit_advance() override;
   void undo_advance() override;
@@ -53,25 +54,17 @@ class SalesIssue : public SalesDocument {
   void find_near(const std::string& current, std::string& near, bool next, std::string_view series) override;
 };
 
-class clsSalesOutBill final : public SalesIssue {
+class clsSalesOutBill final : public ClassOf<SalesIssue, kind::clsSalesOutBill> {
  public:
   using SalesIssue::AdvanceAmount;
   using SalesIssue::NowAdvanceBillID;
 
-  const Kind& kind() const override { return kind::clsSalesOutBill; }
   const Members& members() const override;
-
- protected:
-  const DocumentForm& form() const override;
 };
 
-class clsSalesOutBjkcBill final : public SalesIssue {
+class clsSalesOutBjkcBill final : public ClassOf<SalesIssue, kind::clsSalesOutBjkcBill> {
  public:
-  const Kind& kind() const override { return kind::clsSalesOutBjkcBill; }
   const Members& members() const override;
-
- protected:
-  const DocumentForm& form() const override;
 };
 
 }  // namespace brunvik

@@ -43,9 +43,9 @@ Members SalesReturn::return_members(const Kind& kind, MemberGroup audit) {
   };
 }
 
-DocumentForm SalesReturn::return_form(const Kind& kind, const Members& members) {
+DocumentForm SalesReturn::made_form() const {
   return stock_form(
-      kind, members, WarehouseColumn::Receiver,
+      kind(), members(), WarehouseColumn::Receiver,
       "insert into StockBill(Id,ManualId,Supplier,RManager,Salesman,Creator,CreateTime,Type,InOutFlag,Status,"
       "[Auditor,AuditTime,]PaidAmount,CloseAmount,Amount,InvoiceName,InvoiceType,TaxRate,ClosedTag,ReferFlag,"
       "<Referbillid,>NowPayBillId,Summary,Remarks) values(",
@@ -69,16 +69,6 @@ const Members& clsSalesInBjkcBill::members() const {
   using C = clsSalesInBjkcBill;
   static const Members table = return_members(kind(), {verb<&C::Audit>("Audit"), verb<&C::UndoAudit>("UndoAudit")});
   return table;
-}
-
-const DocumentForm& clsSalesInBill::form() const {
-  static const DocumentForm form = return_form(kind(), members());
-  return form;
-}
-
-const DocumentForm& clsSalesInBjkcBill::form() const {
-  static const DocumentForm form = return_form(kind(), members());
-  return form;
 }
 
 }  // namespace brunvik

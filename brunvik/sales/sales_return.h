@@ -2,6 +2,7 @@
 // average cost and not at that of the issue which they reverse. Money goes through a receipt voucher only.
 #pragma once
 
+#include "brunvik/billframe/class_of.h"
 #include "brunvik/sales/sales_document.h"
 
 namespace brunvik {
@@ -23,34 +24,26 @@ class SalesReturn : public SalesDocument {
  protected:
   // `audit` has the verbs of the audit, which differ in their arguments.
   static Members return_members(const Kind& kind, MemberGroup audit);
-  static DocumentForm return_form(const Kind& kind, const Members& members);
+  DocumentForm made_form() const;
 
   const Operation<StockRow>* stock_operation() const override { return &operation::SalesReturn; }
 };
 
-class clsSalesInBill final : public SalesReturn {
+class clsSalesInBill final : public ClassOf<SalesReturn, kind::clsSalesInBill> {
  public:
   // The stock moves only where IsBJKC is false.
   Long Audit(bool IsBJKC = false) noexcept { return audit(IsBJKC ? Stock::stays : Stock::moves); }
   Long UndoAudit(bool IsBJKC = false) noexcept { return undo_audit(IsBJKC ? Stock::stays : Stock::moves); }
 
-  const Kind& kind() const override { return kind::clsSalesInBill; }
   const Members& members() const override;
-
- protected:
-  const DocumentForm& form() const override;
 };
 
-class clsSalesInBjkcBill final : public SalesReturn {
+class clsSalesInBjkcBill final : public ClassOf<SalesReturn, kind::clsSalesInBjkcBill> {
  public:
   Long Audit() noexcept { return audit(Stock::stays); }
   Long UndoAudit() noexcept { return undo_audit(Stock::stays); }
 
-  const Kind& kind() const override { return kind::clsSalesInBjkcBill; }
   const Members& members() const override;
-
- protected:
-  const DocumentForm& form() const override;
 };
 
 }  // namespace brunvik

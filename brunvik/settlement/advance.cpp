@@ -38,7 +38,7 @@ const Members& Advance::table() {
 
 const Members& Advance::members() const { return table(); }
 
-VoucherForm Advance::advance_form(const Kind& kind) {
+VoucherForm Advance::made_form() const {
   // The received advance finds the repair documents of the paying side too.
   static constexpr std::array repair_codes{bill_type::repair_from_factory, bill_type::repair_to_customer,
                                            bill_type::factory_replacement};
@@ -47,22 +47,12 @@ VoucherForm Advance::advance_form(const Kind& kind) {
           " SavePayBillForDraft(): ",
           repair_codes,
           UndoForm::by_number_alone,
-          Insert(table(), insert_sources(kind),
+          Insert(table(), insert_sources(kind()),
                  "insert into AdvanceBill(Id,Manualid,Manager,Ccompany,Type,Paidamount,Amount,Nowpay,"
                  "Status,Creator,Createtime,[Auditor,Audittime,]Referflag,Referbillid,Summary,Remarks) values("),
-          Update(table(), update_sources(kind),
+          Update(table(), update_sources(kind()),
                  "update AdvanceBill set ManualId = ,Manager = ,Ccompany = ,Paidamount = ,Amount = ,Nowpay = ,Type = ,"
                  "Status = ,[Auditor = ,AuditTime = ,]Referflag = ,Referbillid = ,Summary = ,Remarks =  where Id=")};
-}
-
-const VoucherForm& clsAdvanceBill::form() const {
-  static const VoucherForm form = advance_form(kind());
-  return form;
-}
-
-const VoucherForm& clsAdvanceYSBill::form() const {
-  static const VoucherForm form = advance_form(kind());
-  return form;
 }
 
 // The other family's total is the second sum; on a payment voucher the two stand the other way round.

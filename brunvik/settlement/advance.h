@@ -1,6 +1,7 @@
 // Advances: money paid or received ahead of time, set against the bills that it settles (AdvanceItems).
 #pragma once
 
+#include "brunvik/billframe/class_of.h"
 #include "brunvik/settlement/voucher.h"
 
 namespace brunvik {
@@ -16,7 +17,7 @@ class Advance : public Voucher {
   const Members& members() const override;
 
  protected:
-  static VoucherForm advance_form(const Kind& kind);
+  VoucherForm made_form() const;
 
   Collection<SettledRow>& settled_rows() override { return colAdvanceItems; }
   std::string select_open_amount(std::string_view table, const std::string& bill) const override;
@@ -31,21 +32,9 @@ class Advance : public Voucher {
 };
 
 // Advance paid.
-class clsAdvanceBill final : public Advance {
- public:
-  const Kind& kind() const override { return kind::clsAdvanceBill; }
-
- protected:
-  const VoucherForm& form() const override;
-};
+class clsAdvanceBill final : public ClassOf<Advance, kind::clsAdvanceBill> {};
 
 // Advance received.
-class clsAdvanceYSBill final : public Advance {
- public:
-  const Kind& kind() const override { return kind::clsAdvanceYSBill; }
-
- protected:
-  const VoucherForm& form() const override;
-};
+class clsAdvanceYSBill final : public ClassOf<Advance, kind::clsAdvanceYSBill> {};
 
 }  // namespace brunvik

@@ -60,8 +60,8 @@ const Members& OtherMoneyDocument::table() {
   return table;
 }
 
-DocumentForm OtherMoneyDocument::other_money_form(const Kind& kind) {
-  const std::vector<ColumnSource> sources{constant("Type", kind.code.value()), argument("Status")};
+DocumentForm OtherMoneyDocument::made_form() const {
+  const std::vector<ColumnSource> sources{constant("Type", kind().code.value()), argument("Status")};
   Insert insert_row(
       OtherMoneyRow::table(), {},
       "insert into OthersIEBillItems(Billid,Rownum,Itemid,Itemname,Unit,Qty,Price,Amount,Remarks) values(");
@@ -81,26 +81,6 @@ DocumentForm OtherMoneyDocument::other_money_form(const Kind& kind) {
                  "Lastupdatetime = ,[Auditor = ,Audittime = ,]Summary = ,Remarks =  where Id="),
           std::move(insert_row),
           std::move(read)};
-}
-
-const DocumentForm& ClsOthersIncomeBill::form() const {
-  static const DocumentForm form = other_money_form(kind());
-  return form;
-}
-
-const DocumentForm& clsOthersIncomeBjkcBill::form() const {
-  static const DocumentForm form = other_money_form(kind());
-  return form;
-}
-
-const DocumentForm& clsOthersExpenseBill::form() const {
-  static const DocumentForm form = other_money_form(kind());
-  return form;
-}
-
-const DocumentForm& clsOthersExpenseBjkcBill::form() const {
-  static const DocumentForm form = other_money_form(kind());
-  return form;
 }
 
 Long OtherMoneyDocument::status_to_save(Saving saving) const {

@@ -7,6 +7,7 @@
 
 #include <string>
 
+#include "brunvik/billframe/class_of.h"
 #include "brunvik/billframe/telling_document.h"
 
 namespace brunvik {
@@ -60,7 +61,7 @@ class OtherMoneyDocument : public TellingDocument<Document> {
 
  protected:
   static const Members& table();
-  static DocumentForm other_money_form(const Kind& kind);
+  DocumentForm made_form() const;
 
   // What the audit does to the voucher at the bill's side.
   virtual void audit_money(const std::string& voucher) const = 0;
@@ -97,36 +98,12 @@ class OtherPayable : public OtherMoneyDocument {
   std::string_view undo_tag() const override { return " CancelOthersIEOutAudited(): "; }
 };
 
-class ClsOthersIncomeBill final : public OtherReceivable {
- public:
-  const Kind& kind() const override { return kind::ClsOthersIncomeBill; }
+class ClsOthersIncomeBill final : public ClassOf<OtherReceivable, kind::ClsOthersIncomeBill> {};
 
- protected:
-  const DocumentForm& form() const override;
-};
+class clsOthersIncomeBjkcBill final : public ClassOf<OtherReceivable, kind::clsOthersIncomeBjkcBill> {};
 
-class clsOthersIncomeBjkcBill final : public OtherReceivable {
- public:
-  const Kind& kind() const override { return kind::clsOthersIncomeBjkcBill; }
+class clsOthersExpenseBill final : public ClassOf<OtherPayable, kind::clsOthersExpenseBill> {};
 
- protected:
-  const DocumentForm& form() const override;
-};
-
-class clsOthersExpenseBill final : public OtherPayable {
- public:
-  const Kind& kind() const override { return kind::clsOthersExpenseBill; }
-
- protected:
-  const DocumentForm& form() const override;
-};
-
-class clsOthersExpenseBjkcBill final : public OtherPayable {
- public:
-  const Kind& kind() const override { return kind::clsOthersExpenseBjkcBill; }
-
- protected:
-  const DocumentForm& form() const override;
-};
+class clsOthersExpenseBjkcBill final : public ClassOf<OtherPayable, kind::clsOthersExpenseBjkcBill> {};
 
 }  // namespace brunvik

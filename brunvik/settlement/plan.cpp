@@ -67,8 +67,8 @@ const Members& Plan::table() {
   return table;
 }
 
-DocumentForm Plan::plan_form(const Kind& kind) {
-  const std::vector<ColumnSource> sources{constant("Type", kind.code.value()), argument("Status")};
+DocumentForm Plan::made_form() const {
+  const std::vector<ColumnSource> sources{constant("Type", kind().code.value()), argument("Status")};
   Insert insert_row(PlanRow::table(), {worked_out("ClosedBill", paid_in_whole)},
                     "insert into PlansBillItems(PlanId,OTBillId,BillType,ClosedBill,ClosedAmount,PaidAmount,remarks) "
                     "values(");
@@ -85,16 +85,6 @@ DocumentForm Plan::plan_form(const Kind& kind) {
                  "Remarks =  where Id="),
           std::move(insert_row),
           std::move(read)};
-}
-
-const DocumentForm& ClsReceivePlanBill::form() const {
-  static const DocumentForm form = plan_form(kind());
-  return form;
-}
-
-const DocumentForm& clsPayPlanBill::form() const {
-  static const DocumentForm form = plan_form(kind());
-  return form;
 }
 
 Long Plan::SaveAsDraft() noexcept {

@@ -5,6 +5,7 @@
 
 #include <string>
 
+#include "brunvik/billframe/class_of.h"
 #include "brunvik/billframe/document.h"
 
 namespace brunvik {
@@ -66,7 +67,7 @@ class Plan : public Document {
 
  protected:
   static const Members& table();
-  static DocumentForm plan_form(const Kind& kind);
+  DocumentForm made_form() const;
 
   RowCollection& rows() override { return colBillItems; }
   Long status_to_save(Saving) const override { return status::audited; }
@@ -78,21 +79,9 @@ class Plan : public Document {
 };
 
 // Receipt plan: money to come in.
-class ClsReceivePlanBill final : public Plan {
- public:
-  const Kind& kind() const override { return kind::ClsReceivePlanBill; }
-
- protected:
-  const DocumentForm& form() const override;
-};
+class ClsReceivePlanBill final : public ClassOf<Plan, kind::ClsReceivePlanBill> {};
 
 // Payment plan: money to go out.
-class clsPayPlanBill final : public Plan {
- public:
-  const Kind& kind() const override { return kind::clsPayPlanBill; }
-
- protected:
-  const DocumentForm& form() const override;
-};
+class clsPayPlanBill final : public ClassOf<Plan, kind::clsPayPlanBill> {};
 
 }  // namespace brunvik

@@ -53,6 +53,8 @@ class Voucher : public Bill {
   using Bill::GetPreviousId;
 
  protected:
+  using Form = VoucherForm;
+
   virtual const VoucherForm& form() const = 0;
   virtual Collection<SettledRow>& settled_rows() = 0;
 

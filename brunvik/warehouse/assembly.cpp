@@ -67,7 +67,7 @@ const Members& AssemblyDocument::table() {
   return table;
 }
 
-DocumentForm AssemblyDocument::assembly_form(const Kind& kind) {
+DocumentForm AssemblyDocument::made_form() const {
   Insert insert_row(AssemblyRow::table(), {},
                     "insert into GoodsBillItems(BillId,RowNum,GId,GBarcode,GName,Class,Model1,Model2,unit,"
                     "ActualQty,price,Amount,WareHouseId,EquipCode,GoodStutas,remarks) values(");
@@ -77,12 +77,12 @@ DocumentForm AssemblyDocument::assembly_form(const Kind& kind) {
            "select GoodsBillItems.*,warehouse.WName from GoodsBillItems left join Warehouse on "
            "GoodsBillItems.WareHouseId = Warehouse.id where GoodsBillItems.BillId={} order by GoodsBillItems.rownum",
            "delete from GoodsBillItems where BillId={}"},
-          Insert(table(), header_sources(kind),
+          Insert(table(), header_sources(kind()),
                  "insert into GoodsBill(Id,ManualId,Manager,Salesman,Creator,CreateTime,Type,InOutFlag,"
                  "Status,[Auditor,AuditTime,]ReferFlag,ReferBillID,Summary,Remarks,Gid,Gbarcode,Gname,Class,Unit,"
                  "Model1,Model2,Actualqty,Price,Amount,WareHouseId,GoodStutas) values("),
           // Saved again in front of its audit, a bill keeps its old summary.
-          Update(table(), header_sources(kind),
+          Update(table(), header_sources(kind()),
                  "update GoodsBill set ManualId = ,Manager = ,Salesman = ,Type = ,InOutFlag = ,Status = ,"
                  "[Auditor = ,AuditTime = ,]ReferFlag = ,[Summary = ,]Remarks = ,Gid = ,Gbarcode = ,Gname = ,Class = ,"
                  "Unit = ,Model1 = ,Model2 = ,Actualqty = ,Price = ,Amount = ,WareHouseId = ,GoodStutas =  where Id="),
@@ -127,11 +127,6 @@ Long AssemblyDocument::UndoAudit() noexcept {
   });
 }
 
-const DocumentForm& clsGoodsAssembled::form() const {
-  static const DocumentForm form = assembly_form(kind());
-  return form;
-}
-
 const AssemblyOperations& clsGoodsAssembled::operations() const { return assembly; }
 
 void clsGoodsAssembled::for_each_entering(const std::function<void(const AssemblyRow& goods)>& action) {
@@ -144,11 +139,6 @@ void clsGoodsAssembled::for_each_entering(const std::function<void(const Assembl
   item.ActualQty = Actualqty;
   item.price = price;
   action(item);
-}
-
-const DocumentForm& clsGoodsDismantled::form() const {
-  static const DocumentForm form = assembly_form(kind());
-  return form;
 }
 
 const AssemblyOperations& clsGoodsDismantled::operations() const { return dismantling; }

@@ -6,6 +6,7 @@
 #include <functional>
 #include <string>
 
+#include "brunvik/billframe/class_of.h"
 #include "brunvik/billframe/document.h"
 #include "brunvik/warehouse/assembly_row.h"
 
@@ -53,7 +54,7 @@ class AssemblyDocument : public Document {
 
  protected:
   static const Members& table();
-  static DocumentForm assembly_form(const Kind& kind);
+  DocumentForm made_form() const;
 
   RowCollection& rows() override { return colBillItems; }
   void read_header() override;
@@ -64,22 +65,14 @@ class AssemblyDocument : public Document {
   virtual void for_each_entering(const std::function<void(const AssemblyRow& goods)>& action) = 0;
 };
 
-class clsGoodsAssembled final : public AssemblyDocument {
- public:
-  const Kind& kind() const override { return kind::clsGoodsAssembled; }
-
+class clsGoodsAssembled final : public ClassOf<AssemblyDocument, kind::clsGoodsAssembled> {
  protected:
-  const DocumentForm& form() const override;
   const AssemblyOperations& operations() const override;
   void for_each_entering(const std::function<void(const AssemblyRow& goods)>& action) override;
 };
 
-class clsGoodsDismantled final : public AssemblyDocument {
- public:
-  const Kind& kind() const override { return kind::clsGoodsDismantled; }
-
+class clsGoodsDismantled final : public ClassOf<AssemblyDocument, kind::clsGoodsDismantled> {
  protected:
-  const DocumentForm& form() const override;
   const AssemblyOperations& operations() const override;
   void for_each_entering(const std::function<void(const AssemblyRow& goods)>& action) override;
 };
