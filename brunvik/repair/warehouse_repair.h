@@ -16,14 +16,8 @@
 
 namespace brunvik {
 
-class WarehouseRepairDocument : public TellingDocument<WarehouseDocument> {
+class WarehouseRepairDocument : public TellingDocument<ReceivingDocument> {
  public:
-  Collection<StockRow> colBillItems;
-  std::string RManager;
-  Money Paidamount, BillCost;
-  Long Referflag = 0;
-
-  using Bill::GetBill;
   using Bill::GetNearId;
 
   // Where the documents of the class are audited, first takes the stored rows out of the stock, whatever the status of
@@ -54,7 +48,6 @@ class WarehouseRepairDocument : public TellingDocument<WarehouseDocument> {
 
   const DocumentForm& form() const override = 0;
   DocumentForm made_form() const;
-  RowCollection& rows() override { return colBillItems; }
 
   Long status_to_save(Saving saving) const override;
   const WorkerTags& tags() const override;

@@ -7,12 +7,7 @@ namespace brunvik {
 
 const Members& clsOthersInBill::members() const {
   using C = clsOthersInBill;
-  static const Members table = warehouse_members<C>(
-      {.person = property<&C::RManager>("RManager", "RManager"),
-       .money = {property<&C::Paidamount>("Paidamount"), property<&C::BillCost>("BillCost", "BillCost")},
-       .behind_saving = {verb<&C::GetBill>("GetBill")},
-       .behind_number = {near_id<C>()},
-       .audit = {verb<&C::Audit>("Audit"), verb<&C::UndoAudit>("UndoAudit")}});
+  static const Members table = warehouse_members<C>(receiving_members<C>({near_id<C>()}));
   return table;
 }
 

@@ -8,11 +8,7 @@ namespace brunvik {
 
 const Members& clsTZBill::members() const {
   using C = clsTZBill;
-  static const Members table = warehouse_members<C>(
-      {.person = property<&C::RManager>("RManager", "RManager"),
-       .money = {property<&C::Paidamount>("Paidamount"), property<&C::BillCost>("BillCost", "BillCost")},
-       .behind_saving = {verb<&C::GetBill>("GetBill")},
-       .audit = {verb<&C::Audit>("Audit"), verb<&C::UndoAudit>("UndoAudit")}});
+  static const Members table = warehouse_members<C>(receiving_members<C>());
   return table;
 }
 

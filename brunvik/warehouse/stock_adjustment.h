@@ -7,15 +7,8 @@
 
 namespace brunvik {
 
-class clsTZBill final : public WarehouseDocument {
+class clsTZBill final : public ReceivingDocument {
  public:
-  Collection<StockRow> colBillItems;
-  std::string RManager;
-  Money Paidamount, BillCost;
-  Long Referflag = 0;
-
-  using Bill::GetBill;
-
   // Write the status, and nothing else; with an empty ID nothing at all.
   Long Audit() noexcept;
   Long UndoAudit() noexcept;
@@ -25,7 +18,6 @@ class clsTZBill final : public WarehouseDocument {
 
  protected:
   const DocumentForm& form() const override;
-  RowCollection& rows() override { return colBillItems; }
   void find_last(std::string& last, std::string_view series) override;
 };
 

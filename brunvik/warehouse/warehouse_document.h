@@ -21,4 +21,19 @@ class WarehouseDocument : public PostingDocument {
                                                                                      constant("GoodStutas", 0)});
 };
 
+// Those of them that name a receiving manager, and post in a way of their own or not at all.
+class ReceivingDocument : public WarehouseDocument {
+ public:
+  Collection<StockRow> colBillItems;
+  std::string RManager;
+  // No column keeps Paidamount.
+  Money Paidamount, BillCost;
+  Long Referflag = 0;
+
+  using Bill::GetBill;
+
+ protected:
+  RowCollection& rows() override { return colBillItems; }
+};
+
 }  // namespace brunvik

@@ -17,6 +17,16 @@ struct OwnMembers {
   MemberGroup audit;
 };
 
+// What the documents have of it that name a receiving manager.
+template <class C>
+OwnMembers receiving_members(MemberGroup behind_number = {}) {
+  return {.person = property<&C::RManager>("RManager", "RManager"),
+          .money = {property<&C::Paidamount>("Paidamount"), property<&C::BillCost>("BillCost", "BillCost")},
+          .behind_saving = {verb<&C::GetBill>("GetBill")},
+          .behind_number = std::move(behind_number),
+          .audit = {verb<&C::Audit>("Audit"), verb<&C::UndoAudit>("UndoAudit")}};
+}
+
 template <class C>
 Members warehouse_members(OwnMembers own) {
   return {
