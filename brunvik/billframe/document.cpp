@@ -30,6 +30,11 @@ RowMembers members_read_back(const Insert& insert_row) {
   return read;
 }
 
+DocumentForm form_reading_back(DocumentStatements statements, Insert insert, Update update, Insert insert_row) {
+  RowMembers read = members_read_back(insert_row);
+  return {statements, std::move(insert), std::move(update), std::move(insert_row), std::move(read)};
+}
+
 Long Document::status_to_save(Saving saving) const { return saving == Saving::draft ? status::draft : status::saved; }
 
 void Document::save_header(Saving saving) {

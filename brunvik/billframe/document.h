@@ -26,6 +26,9 @@ struct DocumentForm {
   RowMembers row_members_read;
 };
 
+// The form of a document that reads back of a row what its insert writes, but for the cost.
+DocumentForm form_reading_back(DocumentStatements statements, Insert insert, Update update, Insert insert_row);
+
 class Document : public Bill {
  protected:
   using Form = DocumentForm;

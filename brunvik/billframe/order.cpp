@@ -1,7 +1,5 @@
 #include "brunvik/billframe/order.h"
 
-#include <utility>
-
 #include "brunvik/foundation/SqlOPT_Function.h"
 #include "brunvik/foundation/error_trap.h"
 
@@ -17,21 +15,21 @@ OrderForm Order::order_form_of(const Kind& kind, const Members& members, const M
                                const OrderWords& words) {
   const std::string header(kind.tables[0]), rows(kind.tables[1]);
   const std::string partner(words.partner_column), person(words.person_column);
-  Insert insert_row(row, {},
-                    "insert into " + rows +
-                        "(BillId,RowNum,GId,GBarcode,GName,Class,Model1,Model2,unit,UQty,qty,Actualqty,price,Amount," +
-                        partner + ",remarks) values(");
-  RowMembers read = members_read_back(insert_row);
-  return {words,
-          {words.statements,
-           Insert(members, {},
-                  "insert into " + header + "(Id,ManualId," + partner + "," + person +
-                      ",Creator,CreateTime,BillCost,SendClosedtag,ReferFlag,Referbillid,Summary,Remarks) values("),
-           Update(members, {},
-                  "update " + header + " set ManualId = ," + partner + " = ," + person +
-                      " = ,BillCost = ,SendClosedtag = ,ReferFlag = ,Referbillid = ,Summary = ,Remarks =  where Id="),
-           std::move(insert_row), std::move(read)},
-          Insert(link, {}, words.insert_link)};
+  return {
+      words,
+      form_reading_back(
+          words.statements,
+          Insert(members, {},
+                 "insert into " + header + "(Id,ManualId," + partner + "," + person +
+                     ",Creator,CreateTime,BillCost,SendClosedtag,ReferFlag,Referbillid,Summary,Remarks) values("),
+          Update(members, {},
+                 "update " + header + " set ManualId = ," + partner + " = ," + person +
+                     " = ,BillCost = ,SendClosedtag = ,ReferFlag = ,Referbillid = ,Summary = ,Remarks =  where Id="),
+          Insert(row, {},
+                 "insert into " + rows +
+                     "(BillId,RowNum,GId,GBarcode,GName,Class,Model1,Model2,unit,UQty,qty,Actualqty,price,Amount," +
+                     partner + ",remarks) values(")),
+      Insert(link, {}, words.insert_link)};
 }
 
 void Order::find_last(std::string& last, std::string_view) {

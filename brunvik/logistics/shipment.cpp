@@ -1,7 +1,5 @@
 #include "brunvik/logistics/shipment.h"
 
-#include <utility>
-
 #include "brunvik/billframe/bill_members.h"
 #include "brunvik/billframe/bill_number.h"
 #include "brunvik/foundation/error_trap.h"
@@ -61,27 +59,22 @@ const Members& clsSendGoodsBill::members() const {
 
 // A save again leaves the maker, the settlement mark and the status as they are stored.
 const DocumentForm& clsSendGoodsBill::form() const {
-  static const DocumentForm form = [this] {
-    Insert insert_row(ShipmentRow::table(), {},
-                      "insert into SendGoodsBillItems(Billid,Rownum,Gstutas,Businessclass,Gid,Gbarcode,Gname,Class,"
-                      "Model1,Model2,Unit,Qty,Price,Amount,Supplier,Receiver,Outfactorydate,Equipcode,Buydate,"
-                      "Accessory,Remarks,Bid,BType,BillDate) values(");
-    RowMembers read = members_read_back(insert_row);
-    return DocumentForm{
-        {"select * from SendGoodsBill where Id={}", "delete from SendGoodsBill where Id={}",
-         "select * from SendGoodsBillItems  where BillId={} order by rownum",
-         "delete from SendGoodsBillItems where BillId={}"},
-        Insert(members(), {},
-               "insert into SendGoodsBill(Id,Receiveunit,Receiver,Receiveaddress,Receivetel,Sendgoodsunit,Sendgoodser,"
-               "Sendgoodstel,Logisticcompany,Logisticfare,Collecttag,Receiptcasher,Openingbank,Bankaccount,"
-               "Receiptmoney,Sendgoodsdate,Remarks,Operater,Operatedate,YFZFZH,JSBJ,Status) values("),
-        Update(members(), {},
-               "update SendGoodsBill set Id=,Receiveunit=,Receiver=,Receiveaddress=,Receivetel=,Sendgoodsunit=,"
-               "Sendgoodser=,Sendgoodstel=,Logisticcompany=,Logisticfare=,Collecttag=,Receiptcasher=,Openingbank=,"
-               "Bankaccount=,Receiptmoney=,Sendgoodsdate=,Remarks=,YFZFZH= where Id="),
-        std::move(insert_row),
-        std::move(read)};
-  }();
+  static const DocumentForm form = form_reading_back(
+      {"select * from SendGoodsBill where Id={}", "delete from SendGoodsBill where Id={}",
+       "select * from SendGoodsBillItems  where BillId={} order by rownum",
+       "delete from SendGoodsBillItems where BillId={}"},
+      Insert(members(), {},
+             "insert into SendGoodsBill(Id,Receiveunit,Receiver,Receiveaddress,Receivetel,Sendgoodsunit,Sendgoodser,"
+             "Sendgoodstel,Logisticcompany,Logisticfare,Collecttag,Receiptcasher,Openingbank,Bankaccount,"
+             "Receiptmoney,Sendgoodsdate,Remarks,Operater,Operatedate,YFZFZH,JSBJ,Status) values("),
+      Update(members(), {},
+             "update SendGoodsBill set Id=,Receiveunit=,Receiver=,Receiveaddress=,Receivetel=,Sendgoodsunit=,"
+             "Sendgoodser=,Sendgoodstel=,Logisticcompany=,Logisticfare=,Collecttag=,Receiptcasher=,Openingbank=,"
+             "Bankaccount=,Receiptmoney=,Sendgoodsdate=,Remarks=,YFZFZH= where Id="),
+      Insert(ShipmentRow::table(), {},
+             "insert into SendGoodsBillItems(Billid,Rownum,Gstutas,Businessclass,Gid,Gbarcode,Gname,Class,"
+             "Model1,Model2,Unit,Qty,Price,Amount,Supplier,Receiver,Outfactorydate,Equipcode,Buydate,"
+             "Accessory,Remarks,Bid,BType,BillDate) values("));
   return form;
 }
 

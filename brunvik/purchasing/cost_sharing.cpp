@@ -2,7 +2,6 @@
 
 #include <map>
 #include <string_view>
-#include <utility>
 
 #include "brunvik/foundation/error_trap.h"
 #include "brunvik/foundation/late_binding.h"
@@ -67,24 +66,19 @@ const Members& clsShareCost::members() const {
 }
 
 const DocumentForm& clsShareCost::form() const {
-  static const DocumentForm form = [this] {
-    Insert insert_kind(CostKindRow::table(), {},
-                       "insert into PurChaseCostItems(BillId,RowNum,CostId,CostName,Amount,ShareMethod,remarks) "
-                       "values(");
-    RowMembers read = members_read_back(insert_kind);
-    return DocumentForm{
-        {"select * from PurchaseShareCost where Id={}", "delete from PurchaseShareCost where Id={}",
-         "select * from PurChaseCostItems where BillId={} order by Rownum",
-         "delete from PurChaseCostItems where BillId={}"},
-        Insert(members(), {},
-               "insert into PurchaseShareCost(Id,Vendors,Creator,CreateTime,BillCost,PurChaseBill,PurChaseAmount,"
-               "ReferFlag,ReferBillID,Summary,Remarks) values("),
-        Update(members(), {},
-               "Update PurchaseShareCost set Vendors=,Creator=,CreateTime=,BillCost=,PurChaseBill=,PurChaseAmount=,"
-               "ReferFlag=,ReferBillID=,Summary=,Remarks= where Id="),
-        std::move(insert_kind),
-        std::move(read)};
-  }();
+  static const DocumentForm form = form_reading_back(
+      {"select * from PurchaseShareCost where Id={}", "delete from PurchaseShareCost where Id={}",
+       "select * from PurChaseCostItems where BillId={} order by Rownum",
+       "delete from PurChaseCostItems where BillId={}"},
+      Insert(members(), {},
+             "insert into PurchaseShareCost(Id,Vendors,Creator,CreateTime,BillCost,PurChaseBill,PurChaseAmount,"
+             "ReferFlag,ReferBillID,Summary,Remarks) values("),
+      Update(members(), {},
+             "Update PurchaseShareCost set Vendors=,Creator=,CreateTime=,BillCost=,PurChaseBill=,PurChaseAmount=,"
+             "ReferFlag=,ReferBillID=,Summary=,Remarks= where Id="),
+      Insert(CostKindRow::table(), {},
+             "insert into PurChaseCostItems(BillId,RowNum,CostId,CostName,Amount,ShareMethod,remarks) "
+             "values("));
   return form;
 }
 

@@ -1,7 +1,5 @@
 #include "brunvik/purchasing/goods_arrival.h"
 
-#include <utility>
-
 #include "brunvik/billframe/bill_members.h"
 #include "brunvik/foundation/error_trap.h"
 #include "brunvik/purchasing/purchase_receipt.h"
@@ -50,23 +48,18 @@ const Members& ClsAdjustInBill::members() const {
 }
 
 const DocumentForm& ClsAdjustInBill::form() const {
-  static const DocumentForm form = [this] {
-    Insert insert_row(ArrivalRow::table(), {},
-                      "insert into AdjustStockBill(AdjustId,StockId,RowNum,Meansofpayment,Amount,StockRowNum) values(");
-    RowMembers read = members_read_back(insert_row);
-    return DocumentForm{
-        {"select * from AdjustInBill where Id={}", "delete from AdjustInBill where Id={}",
-         "select * from AdjustStockBill where AdjustId={} order by Rownum ",
-         "delete from AdjustStockBill where StockId={}"},
-        Insert(members(), {argument("Status")},
-               "insert into AdjustInBill(Id,ManualId,Manager,Salesman,Creator,CreateTime,Status,Deliverymethod,"
-               "[Auditor,AuditTime,]ReferFlag,Referbillid,Summary,Remarks) values("),
-        Update(members(), {argument("Status")},
-               "update AdjustInBill set ManualId = ,Manager = ,Salesman = ,Status = ,Deliverymethod = ,"
-               "[Auditor = ,AuditTime = ,]ReferFlag = ,Referbillid = ,Summary = ,Remarks =  where Id="),
-        std::move(insert_row),
-        std::move(read)};
-  }();
+  static const DocumentForm form = form_reading_back(
+      {"select * from AdjustInBill where Id={}", "delete from AdjustInBill where Id={}",
+       "select * from AdjustStockBill where AdjustId={} order by Rownum ",
+       "delete from AdjustStockBill where StockId={}"},
+      Insert(members(), {argument("Status")},
+             "insert into AdjustInBill(Id,ManualId,Manager,Salesman,Creator,CreateTime,Status,Deliverymethod,"
+             "[Auditor,AuditTime,]ReferFlag,Referbillid,Summary,Remarks) values("),
+      Update(members(), {argument("Status")},
+             "update AdjustInBill set ManualId = ,Manager = ,Salesman = ,Status = ,Deliverymethod = ,"
+             "[Auditor = ,AuditTime = ,]ReferFlag = ,Referbillid = ,Summary = ,Remarks =  where Id="),
+      Insert(ArrivalRow::table(), {},
+             "insert into AdjustStockBill(AdjustId,StockId,RowNum,Meansofpayment,Amount,StockRowNum) values("));
   return form;
 }
 

@@ -1,6 +1,5 @@
 #include "brunvik/repair/allocation.h"
 
-#include <utility>
 #include <vector>
 
 #include "brunvik/foundation/Declare_Const.h"
@@ -17,21 +16,19 @@ const Members& GoodsAllocation::members() const {
 DocumentForm GoodsAllocation::made_form() const {
   const std::vector<ColumnSource> sources{constant("processFlag", kind().code.value()),
                                           constant("InOutFlag", kind().side), argument("Status")};
-  Insert insert_row(StockRow::table(), {},
-                    "insert into RgStockBillItems(BillId,RowNum,GId,GBarcode,GName,Class,Model1,Model2,unit,qty,price,"
-                    "Amount,remarks) values(");
-  RowMembers read = members_read_back(insert_row);
-  return {{"select * from RGStockBill where Id={}", "delete from RGstockbill where Id={}",
-           "select * from RGStockBillItems where BillId={} order by rownum",
-           "delete from RGStockBillItems where BillId={}"},
-          Insert(members(), sources,
-                 "insert into RGStockBill(Id,ManualId,Supplier,Receiver,RManager,SManager,Creator,CreateTime,"
-                 "processFlag,InOutFlag,Status,[Auditor,AuditTime,]ReferFlag,Summary,Remarks) values("),
-          Update(members(), sources,
-                 "update RGstockbill set ManualId = ,Supplier = ,Receiver = ,RManager = ,SManager = ,processFlag = ,"
-                 "InOutFlag = ,Status = ,[Auditor = ,AuditTime = ,]ReferFlag = ,Summary = ,Remarks =  where Id="),
-          std::move(insert_row),
-          std::move(read)};
+  return form_reading_back(
+      {"select * from RGStockBill where Id={}", "delete from RGstockbill where Id={}",
+       "select * from RGStockBillItems where BillId={} order by rownum",
+       "delete from RGStockBillItems where BillId={}"},
+      Insert(members(), sources,
+             "insert into RGStockBill(Id,ManualId,Supplier,Receiver,RManager,SManager,Creator,CreateTime,"
+             "processFlag,InOutFlag,Status,[Auditor,AuditTime,]ReferFlag,Summary,Remarks) values("),
+      Update(members(), sources,
+             "update RGstockbill set ManualId = ,Supplier = ,Receiver = ,RManager = ,SManager = ,processFlag = ,"
+             "InOutFlag = ,Status = ,[Auditor = ,AuditTime = ,]ReferFlag = ,Summary = ,Remarks =  where Id="),
+      Insert(StockRow::table(), {},
+             "insert into RgStockBillItems(BillId,RowNum,GId,GBarcode,GName,Class,Model1,Model2,unit,qty,price,"
+             "Amount,remarks) values("));
 }
 
 Operation<StockRow> GoodsAllocation::movement(std::string_view supplier, std::string_view receiver, Long state) {

@@ -1,7 +1,5 @@
 #include "brunvik/settlement/other_money.h"
 
-#include <utility>
-
 #include "brunvik/billframe/bill_members.h"
 #include "brunvik/foundation/Declare_Const.h"
 #include "brunvik/foundation/GetValue_Function.h"
@@ -62,25 +60,22 @@ const Members& OtherMoneyDocument::table() {
 
 DocumentForm OtherMoneyDocument::made_form() const {
   const std::vector<ColumnSource> sources{constant("Type", kind().code.value()), argument("Status")};
-  Insert insert_row(
-      OtherMoneyRow::table(), {},
-      "insert into OthersIEBillItems(Billid,Rownum,Itemid,Itemname,Unit,Qty,Price,Amount,Remarks) values(");
-  RowMembers read = members_read_back(insert_row);
-  return {{"select * from OthersIEBill where Id={}", "delete from OthersIEBill where Id={}",
-           "select * from OthersIEBillItems where BillId={} order by rownum",
-           "delete from OthersIEBillItems where BillId={}"},
-          Insert(table(), sources,
-                 "insert into OthersIEBill(Id,ManualId,CCompany,Manager,Creator,CreateTime,Type,Status,"
-                 "[Auditor,Audittime, ]Paidamount,Closeamount,Amount,Invoicename,Invoicetype,Taxrate,Discounttype,"
-                 "Discountcard,Discountrate, Deliverymethod,Closedtag,Nowpaybillid,Referflag,Referbillid,"
-                 "Lastupdatetime,Summary,Remarks) values("),
-          Update(table(), sources,
-                 "update OthersIEBill set ManualId = ,CCompany = ,Manager = ,Type = ,Status = ,Paidamount = ,"
-                 "Closeamount = ,Amount = ,Invoicename = ,Invoicetype = ,Taxrate = ,Discounttype = ,Discountcard = ,"
-                 "Discountrate = ,Deliverymethod = ,Closedtag = ,Nowpaybillid = ,Referflag = ,Referbillid = ,"
-                 "Lastupdatetime = ,[Auditor = ,Audittime = ,]Summary = ,Remarks =  where Id="),
-          std::move(insert_row),
-          std::move(read)};
+  return form_reading_back(
+      {"select * from OthersIEBill where Id={}", "delete from OthersIEBill where Id={}",
+       "select * from OthersIEBillItems where BillId={} order by rownum",
+       "delete from OthersIEBillItems where BillId={}"},
+      Insert(table(), sources,
+             "insert into OthersIEBill(Id,ManualId,CCompany,Manager,Creator,CreateTime,Type,Status,"
+             "[Auditor,Audittime, ]Paidamount,Closeamount,Amount,Invoicename,Invoicetype,Taxrate,Discounttype,"
+             "Discountcard,Discountrate, Deliverymethod,Closedtag,Nowpaybillid,Referflag,Referbillid,"
+             "Lastupdatetime,Summary,Remarks) values("),
+      Update(table(), sources,
+             "update OthersIEBill set ManualId = ,CCompany = ,Manager = ,Type = ,Status = ,Paidamount = ,"
+             "Closeamount = ,Amount = ,Invoicename = ,Invoicetype = ,Taxrate = ,Discounttype = ,Discountcard = ,"
+             "Discountrate = ,Deliverymethod = ,Closedtag = ,Nowpaybillid = ,Referflag = ,Referbillid = ,"
+             "Lastupdatetime = ,[Auditor = ,Audittime = ,]Summary = ,Remarks =  where Id="),
+      Insert(OtherMoneyRow::table(), {},
+             "insert into OthersIEBillItems(Billid,Rownum,Itemid,Itemname,Unit,Qty,Price,Amount,Remarks) values("));
 }
 
 Long OtherMoneyDocument::status_to_save(Saving saving) const {
