@@ -59,25 +59,20 @@ RehearsedDocument allocation(const std::string& class_name, const Steps& undo) {
   RehearsedDocument document{.class_name = class_name, .prefix = std::string(kind.prefix)};
   document.books = bills(document, *kind.code);
   const Frame shared = frame();
-  Steps rows;
+  Frame posting = shared;
+  posting.rows_added.clear();
   for (std::size_t row = 0; row < both_rows().size(); ++row) {
     const std::string name = "row " + std::to_string(row + 1);
-    rows.push_back(setting("启用坏件审核", {name}));
-    for (const Step& step : posted(both_rows()[row])) rows.push_back(named(name, step));
-    rows.push_back(shared.rows_added[row]);
+    posting.rows_added.push_back(setting("启用坏件审核", {name}));
+    for (const Step& step : posted(both_rows()[row])) posting.rows_added.push_back(named(name, step));
+    posting.rows_added.push_back(shared.rows_added[row]);
   }
   Verbs own;
   for (const bool draft : {false, true}) {
     const std::string verb = draft ? "SaveAsDraft" : "Save";
     Steps looked_up{shared.header_sought};
     if (!draft) looked_up.push_back(truth_setting("启用进销审核", ""));
-    own.push_back({.verb = verb,
-                   .steps = looked_up + Steps{shared.header_added} + rows,
-                   .remark = "for_the_first_time",
-                   .number = document.number(9)});
-    own.push_back({.verb = verb,
-                   .steps = looked_up + shared.rows_removed + Steps{shared.header_updated} + rows,
-                   .remark = "again"});
+    own = own + saves(verb, looked_up, posting, document.number(9));
   }
   const std::string tag = " UpdateDbBillAudited(): ";
   own.push_back({.verb = "UpdateAudited",

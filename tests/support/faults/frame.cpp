@@ -65,34 +65,41 @@ Frame stock_frame() {
   return frame;
 }
 
+Verbs saves(const std::string& verb, const Steps& looked_up, const Frame& frame, const std::string& unknown) {
+  return {{.verb = verb,
+           .steps = looked_up + Steps{frame.header_added} + frame.rows_added,
+           .remark = "for_the_first_time",
+           .number = unknown},
+          {.verb = verb,
+           .steps = looked_up + frame.rows_removed + Steps{frame.header_updated} + frame.rows_added,
+           .remark = "again"}};
+}
+
 Verbs with_frame(const std::string& class_name, const std::string& prefix, const Frame& frame, Verbs own) {
   const RehearsedDocument document{.class_name = class_name, .prefix = prefix};
   const Steps read = Steps{frame.header_read} + frame.rows_read;
-  const Steps added = Steps{frame.header_sought, frame.header_added} + frame.rows_added;
-  const Steps updated =
-      Steps{frame.header_sought} + frame.rows_removed + Steps{frame.header_updated} + frame.rows_added;
-  const std::string unknown = document.number(9);
-  const Verbs shared{
-      {.verb = "Save", .steps = added, .remark = "for_the_first_time", .number = unknown},
-      {.verb = "Save", .steps = updated, .remark = "again"},
-      {.verb = "SaveAsDraft", .steps = added, .remark = "for_the_first_time", .number = unknown},
-      {.verb = "SaveAsDraft", .steps = updated, .remark = "again"},
-      {.verb = "GetBill", .steps = read},
-      {.verb = "LoadById", .arguments = {document.bill()}, .steps = read},
-      {.verb = "Delete", .steps = frame.rows_removed + Steps{frame.header_removed}},
-      {.verb = "LoadLast", .steps = Steps{frame.last} + read},
-      {.verb = "GetLastId", .arguments = {""}, .steps = {frame.last}},
-      {.verb = "LoadNext", .steps = Steps{frame.next} + read},
-      {.verb = "LoadPreviou", .steps = Steps{frame.previous} + read},
-      {.verb = "GetNewId", .arguments = {""}, .steps = {next_number()}},
-      {.verb = "GetNextId", .arguments = {document.number(1), ""}, .steps = {frame.next}},
-      {.verb = "GetPreviousId", .arguments = {document.number(2), ""}, .steps = {frame.previous}},
-      {.verb = "GetNearId", .arguments = {document.number(1), "", true}, .steps = {frame.next}, .remark = "forward"},
-      {.verb = "GetNearId",
-       .arguments = {document.number(2), "", false},
-       .steps = {frame.previous},
-       .remark = "backward"},
-  };
+  const auto saved = [&](const char* verb) { return saves(verb, {frame.header_sought}, frame, document.number(9)); };
+  const Verbs shared = saved("Save") + saved("SaveAsDraft") +
+                       Verbs{
+                           {.verb = "GetBill", .steps = read},
+                           {.verb = "LoadById", .arguments = {document.bill()}, .steps = read},
+                           {.verb = "Delete", .steps = frame.rows_removed + Steps{frame.header_removed}},
+                           {.verb = "LoadLast", .steps = Steps{frame.last} + read},
+                           {.verb = "GetLastId", .arguments = {""}, .steps = {frame.last}},
+                           {.verb = "LoadNext", .steps = Steps{frame.next} + read},
+                           {.verb = "LoadPreviou", .steps = Steps{frame.previous} + read},
+                           {.verb = "GetNewId", .arguments = {""}, .steps = {next_number()}},
+                           {.verb = "GetNextId", .arguments = {document.number(1), ""}, .steps = {frame.next}},
+                           {.verb = "GetPreviousId", .arguments = {document.number(2), ""}, .steps = {frame.previous}},
+                           {.verb = "GetNearId",
+                            .arguments = {document.number(1), "", true},
+                            .steps = {frame.next},
+                            .remark = "forward"},
+                           {.verb = "GetNearId",
+                            .arguments = {document.number(2), "", false},
+                            .steps = {frame.previous},
+                            .remark = "backward"},
+                       };
   const auto object = automation::create(class_name);
   Verbs verbs = std::move(own);
   const std::size_t own_count = verbs.size();

@@ -33,6 +33,9 @@ Frame frame_over(const std::string& header, const std::string& rows);
 // Over StockBill and StockBillItems.
 Frame stock_frame();
 
+// The save of a bill whose number is unknown, and of the one that is stored. What looks the bill up stands in front.
+Verbs saves(const std::string& verb, const Steps& looked_up, const Frame& frame, const std::string& unknown);
+
 // The frame's verbs that the class publishes, without those that are in `own`; `own` comes first. A verb that takes a
 // series of numbers is given the prefix.
 Verbs with_frame(const std::string& class_name, const std::string& prefix, const Frame& frame, Verbs own);

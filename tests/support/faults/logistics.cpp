@@ -129,13 +129,7 @@ const Rehearsed freight_settlement([] {
     Step setting = goes_on("", "session|select * from BasicConfig where keyname='启用帐款审核'");
     setting.notice = "错误信息|GetKeyValue():";
     if (!draft) looked_up.push_back(setting);
-    own.push_back({.verb = verb,
-                   .steps = looked_up + Steps{frame.header_added} + frame.rows_added,
-                   .remark = "for_the_first_time",
-                   .number = document.number(9)});
-    own.push_back({.verb = verb,
-                   .steps = looked_up + frame.rows_removed + Steps{frame.header_updated} + frame.rows_added,
-                   .remark = "again"});
+    own = own + saves(verb, looked_up, frame, document.number(9));
   }
   document.verbs = with_frame(document.class_name, document.prefix, frame, std::move(own));
   return document;

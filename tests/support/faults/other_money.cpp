@@ -58,13 +58,7 @@ RehearsedDocument other_money(const std::string& class_name, const AuditTags& ta
     const Frame shared = frame();
     Steps looked_up{header_read(draft ? " SaveOthersIEBillForSketch(): " : " SaveOthersIEBill(): ")};
     if (!draft) looked_up.push_back(truth_setting("启用帐款审核", " SaveOthersIEBill(): "));
-    own.push_back({.verb = verb,
-                   .steps = looked_up + Steps{shared.header_added} + shared.rows_added,
-                   .remark = "for_the_first_time",
-                   .number = document.number(9)});
-    own.push_back({.verb = verb,
-                   .steps = looked_up + shared.rows_removed + Steps{shared.header_updated} + shared.rows_added,
-                   .remark = "again"});
+    own = own + saves(verb, looked_up, shared, document.number(9));
   }
   own.push_back({.verb = "UpdateAudited",
                  .steps = Steps{header_read(tags.audit), told(tags.audit, "bill|update OthersIEBill set Status = 3")} +

@@ -60,7 +60,8 @@ inline Step ending_with(Long result, Step step) {
   return step;
 }
 
-inline Steps operator+(Steps left, const Steps& right) {
+template <class Element>
+std::vector<Element> operator+(std::vector<Element> left, const std::vector<Element>& right) {
   left.insert(left.end(), right.begin(), right.end());
   return left;
 }

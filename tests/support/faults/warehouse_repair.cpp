@@ -53,20 +53,15 @@ RehearsedDocument warehouse_repair(const WarehouseRepair& own, const std::string
     const std::string tag = "Save" + own.name + (draft ? "ForSketch():" : "():");
     Steps looked_up{ends_telling(tag, shared.header_sought.begins)};
     if (!draft) looked_up.push_back(truth_setting(own.audit_setting, tag));
-    Steps rows;
+    Frame posting = shared;
+    posting.rows_added.clear();
     for (std::size_t row = 0; row < own.added.size(); ++row) {
       const std::string name = "row " + std::to_string(row + 1);
-      rows = rows + Steps{shared.rows_added[row], setting("启用仓库业务审核", {name})};
+      posting.rows_added = posting.rows_added + Steps{shared.rows_added[row], setting("启用仓库业务审核", {name})};
       if (draft) continue;
-      for (const Step& step : own.added[row]) rows.push_back(named(name, step));
+      for (const Step& step : own.added[row]) posting.rows_added.push_back(named(name, step));
     }
-    verbs.push_back({.verb = verb,
-                     .steps = looked_up + Steps{shared.header_added} + rows,
-                     .remark = "for_the_first_time",
-                     .number = bill.substr(0, bill.size() - 1) + "9"});
-    verbs.push_back({.verb = verb,
-                     .steps = looked_up + shared.rows_removed + Steps{shared.header_updated} + rows,
-                     .remark = "again"});
+    verbs = verbs + saves(verb, looked_up, posting, bill.substr(0, bill.size() - 1) + "9");
   }
   verbs.push_back({.verb = "Delete",
                    .steps = Steps{truth_setting(own.audit_setting, "Delete" + own.name + "AndItems():")} + reduced() +
