@@ -47,14 +47,6 @@ void ServiceTicket::find_near(const std::string& current, std::string& near, boo
   });
 }
 
-Long ServiceTicket::GetPreviousId(const std::string& CurBillID, std::string& PreviousId) noexcept {
-  return neighbour_in_series(CurBillID, PreviousId, false, {});
-}
-
-Long ServiceTicket::GetNextId(const std::string& CurBillID, std::string& NextId) noexcept {
-  return neighbour_in_series(CurBillID, NextId, true, {});
-}
-
 MemberGroup ServiceTicket::neighbour_numbers() {
   using C = ServiceTicket;
   return {

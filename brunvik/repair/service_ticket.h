@@ -32,9 +32,8 @@ class ServiceTicket : public Bill {
   // The lowest number, empty where there is none.
   Long GetFirstId(std::string& FirstId) noexcept;
 
-  // The neighbours of a number, empty at the end.
-  Long GetPreviousId(const std::string& CurBillID, std::string& PreviousId) noexcept;
-  Long GetNextId(const std::string& CurBillID, std::string& NextId) noexcept;
+  using Bill::GetNextId;
+  using Bill::GetPreviousId;
 
   // Removes the ticket; 0 also where there is none.
   Long Delete() noexcept;
