@@ -133,12 +133,7 @@ void PurchaseReceipt::read_receipt_rows(Collection<StockRow>& rows, const ado::C
 Document::FinishRow PurchaseReceipt::finish_row() const { return number_unnumbered_row; }
 
 Long PurchaseReceipt::Audit(bool bJKC) noexcept {
-  return trap([&] {
-    if (ID.empty()) return;
-    mark(status::audited);
-    audit_voucher<clsPayBill>(Nowpaybillid);
-    // An opening balance is a debt alone: its goods came in before the books were opened.
-    if (kind().opening) return;
+  return audit_with<clsPayBill>([&] {
     audit_voucher<clsAdvanceBill>(NowAdvanceBillID);
     read_rows();
     cost_and_post(bJKC ? Stock::moves : Stock::stays, [](const StockRow& row) {
@@ -154,14 +149,14 @@ void PurchaseReceipt::row_posted(const StockRow& row) {
   update_zero_cost_issues(ADOConn, row.Gid, [&](const std::string& statement) { execute(statement); });
 }
 
+// On the session's road, in upper case, and the auditor is cleared where the other trade documents write it.
+void PurchaseReceipt::mark_undone() {
+  std::string mark = sql("update stockbill set Status={},Auditor='',AuditTime='' where id={}", status::saved, ID);
+  ExecuteNonQuerySql(mark);
+}
+
 Long PurchaseReceipt::UndoAudit(bool bJKC) noexcept {
-  return trap([&] {
-    if (ID.empty()) return;
-    // On the session's road, in upper case, and the auditor is cleared where the other trade documents write it.
-    std::string mark = sql("update stockbill set Status={},Auditor='',AuditTime='' where id={}", status::saved, ID);
-    ExecuteNonQuerySql(mark);
-    undo_voucher<clsPayBill>(Nowpaybillid);
-    if (kind().opening) return;
+  return undo_with<clsPayBill>([&] {
     undo_voucher<clsAdvanceBill>(NowAdvanceBillID);
     cost_rows([](const StockRow& row) {
       UndoAuditUpdateAverageCost(row.Gid, row.Unit, row.Class, row.Model1, row.Model2, row.Qty, row.price,

@@ -48,6 +48,7 @@ class PurchaseReceipt : public TradeDocument {
   FinishRow finish_row() const override;
   const Operation<StockRow>* stock_operation() const override { return &operation::StockIn; }
   void row_posted(const StockRow& row) override;
+  void mark_undone() override;
 
  private:
   void read_rows_of(Long row_number, bool with_arrivals);

@@ -1,7 +1,6 @@
 #include "brunvik/purchasing/purchase_return.h"
 
 #include "brunvik/billframe/bill_members.h"
-#include "brunvik/foundation/error_trap.h"
 #include "brunvik/settlement/pay_bill.h"
 
 namespace brunvik {
@@ -58,11 +57,7 @@ DocumentForm PurchaseReturn::made_form() const {
 }
 
 Long PurchaseReturn::Audit() noexcept {
-  return trap([&] {
-    if (ID.empty()) return;
-    mark(status::audited);
-    audit_voucher<clsPayBill>(Nowpaybillid);
-    if (kind().opening) return;
+  return audit_with<clsPayBill>([&] {
     read_rows();
     cost_and_post(Stock::moves, [](const StockRow& row) {
       return cost_at_average(UndoAuditUpdateAverageCost(row.Gid, row.Unit, row.Class, row.Model1, row.Model2, row.Qty,
@@ -74,11 +69,7 @@ Long PurchaseReturn::Audit() noexcept {
 }
 
 Long PurchaseReturn::UndoAudit() noexcept {
-  return trap([&] {
-    if (ID.empty()) return;
-    mark(status::saved);
-    undo_voucher<clsPayBill>(Nowpaybillid);
-    if (kind().opening) return;
+  return undo_with<clsPayBill>([&] {
     read_rows();
     cost_rows([](const StockRow& row) {
       AuditUpdateAverageCost(row.Gid, row.Unit, row.Class, row.Model1, row.Model2, row.Qty, row.price, no_cost_delta);

@@ -1,16 +1,11 @@
 #include "brunvik/sales/sales_document.h"
 
-#include "brunvik/foundation/error_trap.h"
 #include "brunvik/settlement/receipt_bill.h"
 
 namespace brunvik {
 
 Long SalesDocument::audit(Stock stock) noexcept {
-  return trap([&] {
-    if (ID.empty()) return;
-    mark(status::audited);
-    audit_voucher<clsReceiptBill>(Nowpaybillid);
-    if (kind().opening) return;
+  return audit_with<clsReceiptBill>([&] {
     audit_advance();
     read_rows();
     cost_and_post(stock, [](const StockRow& row) {
@@ -21,11 +16,7 @@ Long SalesDocument::audit(Stock stock) noexcept {
 }
 
 Long SalesDocument::undo_audit(Stock stock) noexcept {
-  return trap([&] {
-    if (ID.empty()) return;
-    mark(status::saved);
-    undo_voucher<clsReceiptBill>(Nowpaybillid);
-    if (kind().opening) return;
+  return undo_with<clsReceiptBill>([&] {
     undo_advance();
     cost_rows([](const StockRow&) { return Money(); });
     BillCost = write_bill_cost();

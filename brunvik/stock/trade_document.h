@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "brunvik/foundation/error_trap.h"
 #include "brunvik/stock/posting_document.h"
 
 namespace brunvik {
@@ -25,6 +26,31 @@ class TradeDocument : public PostingDocument {
 
  protected:
   RowCollection& rows() override { return colBillItems; }
+
+  // An audit: marks the bill, audits the voucher at its side, and goes on. An opening balance ends with its voucher: it
+  // is a debt alone, as its goods came or went before the books were opened. Nothing happens with an empty ID.
+  template <class Voucher, class GoOn>
+  Long audit_with(GoOn&& go_on) noexcept {
+    return trap([&] {
+      if (ID.empty()) return;
+      mark(status::audited);
+      audit_voucher<Voucher>(Nowpaybillid);
+      if (!kind().opening) go_on();
+    });
+  }
+
+  // The same the other way.
+  template <class Voucher, class GoOn>
+  Long undo_with(GoOn&& go_on) noexcept {
+    return trap([&] {
+      if (ID.empty()) return;
+      mark_undone();
+      undo_voucher<Voucher>(Nowpaybillid);
+      if (!kind().opening) go_on();
+    });
+  }
+
+  virtual void mark_undone() { mark(status::saved); }
 };
 
 }  // namespace brunvik
