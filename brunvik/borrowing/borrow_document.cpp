@@ -72,8 +72,10 @@ void BorrowDocument::mark(Long status, const std::string& bill) const {
       sql("update GBorrowBill set Status={},Auditor={},AuditTime={} where id={}", status, Auditor, Audittime, bill));
 }
 
-void BorrowDocument::read_rows_of(const std::string& bill) {
+template <class Act>
+void BorrowDocument::for_each_stored_row(const std::string& bill, Act&& act) {
   take_rows(execute(sql(form().statements.select_rows, bill)), finish_row());
+  for_each_row(colBillItems, [&](const PublicObject& row) { act(static_cast<const BorrowRow&>(row)); });
 }
 
 Long BorrowDocument::Audit() noexcept {
@@ -86,9 +88,7 @@ Long BorrowDocument::Audit() noexcept {
       stock.Post(stored_operation(stock, Direction::out, ID), ID);
       return;
     }
-    read_rows_of(ID);
-    for_each_row(colBillItems, [](const PublicObject& each) {
-      const auto& row = static_cast<const BorrowRow&>(each);
+    for_each_stored_row(ID, [](const BorrowRow& row) {
       const StockPoster& stock = session_poster();
       stock.Post(stored_operation(stock, Direction::in, row.BillId), row);
     });
@@ -108,9 +108,7 @@ void BorrowDocument::take_back(Long status, const std::string& bill) {
     stock.Undo(stored_operation(stock, Direction::in, bill), bill);
     return;
   }
-  read_rows_of(bill);
-  for_each_row(colBillItems, [](const PublicObject& each) {
-    const auto& row = static_cast<const BorrowRow&>(each);
+  for_each_stored_row(bill, [](const BorrowRow& row) {
     const StockPoster& stock = session_poster();
     stock.Undo(stored_operation(stock, Direction::out, row.BillId), row);
   });

@@ -69,7 +69,10 @@ class BorrowDocument : public Document {
 
  private:
   void mark(Long status, const std::string& bill) const;
-  void read_rows_of(const std::string& bill);
+
+  // Reads the rows of the document of this number into the object, and hands each to `act`.
+  template <class Act>
+  void for_each_stored_row(const std::string& bill, Act&& act);
 };
 
 // The rows that join the name of the warehouse by either column.
