@@ -1,15 +1,10 @@
 #include "brunvik/billframe/order.h"
 
+#include "brunvik/ado/or_zero.h"
 #include "brunvik/foundation/SqlOPT_Function.h"
 #include "brunvik/foundation/error_trap.h"
 
 namespace brunvik {
-
-namespace {
-
-Money money_or_zero(const Value& quantity) { return quantity.is_null() ? Money() : quantity.as_money(); }
-
-}  // namespace
 
 OrderForm Order::order_form_of(const Kind& kind, const Members& members, const Members& row, const Members& link,
                                const OrderWords& words) {
@@ -41,7 +36,7 @@ Long Order::SetSaleClose(const std::string& BillId) noexcept {
   return trap([&] {
     auto rows = execute(sql("select * from {raw} where BillId={}", kind().tables[1], BillId));
     for (; !rows.at_end(); rows.MoveNext()) {
-      if (money_or_zero(rows.value("Qty")) > money_or_zero(rows.value("Actualqty"))) return;
+      if (ado::money_or_zero(rows.value("Qty")) > ado::money_or_zero(rows.value("Actualqty"))) return;
     }
     execute(sql("update {raw} set SendClosedtag=1 where Id={}", kind().header_table(), BillId));
   });

@@ -1,6 +1,7 @@
 #include "brunvik/borrowing/loan.h"
 
 #include "brunvik/ado/numbers.h"
+#include "brunvik/billframe/dealt_with.h"
 #include "brunvik/foundation/SqlOPT_Function.h"
 #include "brunvik/foundation/error_trap.h"
 
@@ -15,17 +16,11 @@ const Insert& insert_link() {
   return insert;
 }
 
-Single quantity_or_zero(const Value& quantity) { return quantity.is_null() ? 0 : quantity.as_single(); }
-
-// A link without a kind or a row number counts as one of kind 1 and of the first row.
 void complete_link(BorrowLink& link, const ado::Recordset& set) {
-  const auto one_for_null = [&](const char* column, Long& number) {
-    if (set.value(column).is_null()) number = 1;
-  };
-  one_for_null("BorrowType", link.BorrowType);
-  one_for_null("StcokType", link.StcokType);
-  one_for_null("BorrowRowNum", link.BorrowRowNum);
-  one_for_null("StcokRowNum", link.StcokRowNum);
+  point_to_first(set, {{"BorrowType", &link.BorrowType},
+                       {"StcokType", &link.StcokType},
+                       {"BorrowRowNum", &link.BorrowRowNum},
+                       {"StcokRowNum", &link.StcokRowNum}});
 }
 
 }  // namespace
@@ -58,11 +53,9 @@ Long Loan::DeteleBorrowPurList(const std::string& PurId) noexcept {
 
 Long Loan::ExitReturnGoods(const std::string& BillId) noexcept {
   return trap([&] {
-    auto rows = execute(sql("select * from GBorrowItems where BillId={}", BillId));
-    for (; !rows.at_end(); rows.MoveNext()) {
-      if (quantity_or_zero(rows.value("Actualqty")) > 0) return;
+    if (!has_row_dealt_with(execute(sql("select * from GBorrowItems where BillId={}", BillId)), "Actualqty")) {
+      throw Stop{1};
     }
-    throw Stop{1};
   });
 }
 
@@ -85,9 +78,8 @@ Long Loan::save_links(const Collection<BorrowLink>& links) noexcept {
 
 Long Loan::close(const std::string& loan) noexcept {
   return trap([&] {
-    auto rows = execute(sql("select * from GBorrowItems where BillId={}", loan));
-    for (; !rows.at_end(); rows.MoveNext()) {
-      if (quantity_or_zero(rows.value("UQty")) > quantity_or_zero(rows.value("Actualqty"))) throw Stop{1};
+    if (has_row_left(execute(sql("select * from GBorrowItems where BillId={}", loan)), "UQty", "Actualqty")) {
+      throw Stop{1};
     }
     execute(sql("update GBorrowBill set ClosedTag=1 where Id={}", loan));
   });

@@ -3,6 +3,7 @@
 #include <array>
 #include <utility>
 
+#include "brunvik/billframe/dealt_with.h"
 #include "brunvik/foundation/SqlOPT_Function.h"
 #include "brunvik/foundation/error_trap.h"
 #include "brunvik/foundation/late_binding.h"
@@ -19,24 +20,15 @@ const Insert& link_insert() {
   return insert;
 }
 
-// A link that doesn't name kinds or rows points to the first.
-void read_first_where_null(RGBxrkSaleInList& link, const ado::Recordset& set) {
-  const std::array<std::pair<const char*, Long*>, 4> fields{{{"RGStockRowNum", &link.RgstockRownum},
-                                                             {"RGStockType", &link.RGStocktype},
-                                                             {"StockRowNum", &link.StockRownum},
-                                                             {"StockType", &link.Stocktype}}};
-  for (const auto& [column, field] : fields) {
-    if (set.value(column).is_null()) *field = 1;
-  }
+void complete_link(RGBxrkSaleInList& link, const ado::Recordset& set) {
+  point_to_first(set, {{"RGStockRowNum", &link.RgstockRownum},
+                       {"RGStockType", &link.RGStocktype},
+                       {"StockRowNum", &link.StockRownum},
+                       {"StockType", &link.Stocktype}});
 }
 
 double in_base_units(const RGBxrkSaleInList& link) {
   return GoodsUnitConverter(link.GoodsId, link.Unit).to_double() * static_cast<double>(link.Qty);
-}
-
-Single quantity(const ado::Recordset& set, std::string_view column) {
-  const Value& field = set.value(column);
-  return field.is_null() ? 0 : field.as_single();
 }
 
 }  // namespace
@@ -99,7 +91,7 @@ Long clsRGStockBxrk::GetRGBxrkSaleInBillItems(const std::string& RGBxrkId, const
         execute(sql("select * from RGStockBillList where RGBxrkId={} and StockId={} and StockType={} order by "
                     "StockRowNum",
                     RGBxrkId, SaleInId, bill_type::sales_return)),
-        link_insert().members_written(), read_first_where_null);
+        link_insert().members_written(), complete_link);
   });
 }
 
@@ -125,9 +117,8 @@ Long clsRGStockBxrk::DeteleRGBxrkSaleInList(const std::string& SaleInId) noexcep
 
 Long clsRGStockBxrk::SetRGBxrkSaleInClosedTag(const std::string& BillId) noexcept {
   return trap([&] {
-    auto rows = execute(sql("select * from RGStockBillItems where BillId={}", BillId));
-    for (; !rows.at_end(); rows.MoveNext()) {
-      if (quantity(rows, "Qty") > quantity(rows, "YfQty")) throw Stop{1};
+    if (has_row_left(execute(sql("select * from RGStockBillItems where BillId={}", BillId)), "Qty", "YfQty")) {
+      throw Stop{1};
     }
     execute(sql("update RGStockBill set QtyStutas=1 where Id={}", BillId));
   });
@@ -139,11 +130,9 @@ Long clsRGStockBxrk::UndoSetRGBxrkSaleInClosedTag(const std::string& BillId) noe
 
 Long clsRGStockBxrk::ExitReturnGoods(const std::string& BillId) noexcept {
   return trap([&] {
-    auto rows = execute(sql("select * from RGStockBillItems where BillId={}", BillId));
-    for (; !rows.at_end(); rows.MoveNext()) {
-      if (quantity(rows, "YfQty") > 0) return;
+    if (!has_row_dealt_with(execute(sql("select * from RGStockBillItems where BillId={}", BillId)), "YfQty")) {
+      throw Stop{1};
     }
-    throw Stop{1};
   });
 }
 

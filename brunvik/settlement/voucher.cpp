@@ -3,6 +3,7 @@
 #include <array>
 #include <utility>
 
+#include "brunvik/ado/or_zero.h"
 #include "brunvik/foundation/error_trap.h"
 #include "brunvik/foundation/sql_text.h"
 #include "brunvik/settlement/voucher_status.h"
@@ -14,8 +15,6 @@ namespace {
 // Where a row's open amount is read, every repair document is found.
 constexpr std::array all_repair_codes{bill_type::repair_from_factory, bill_type::repair_to_customer,
                                       bill_type::factory_replacement, bill_type::replacement_to_customer};
-
-Money money_or_zero(const Value& field) { return field.is_null() ? Money() : field.as_money(); }
 
 }  // namespace
 
@@ -138,9 +137,9 @@ void Voucher::read_settled_rows(ado::Recordset set, const Insert& written_by) {
 void Voucher::read_open_amount(SettledRow& row, std::string_view table) const {
   const auto set = execute(select_open_amount(table, row.Rpablebid));
   if (set.at_end()) return;
-  row.BillAmount = money_or_zero(set.value("billamount"));
-  row.OpenAmount = row.BillAmount - money_or_zero(set.value("PaidAmount"));
-  if (set.has("PaidAmount2")) row.OpenAmount -= money_or_zero(set.value("PaidAmount2"));
+  row.BillAmount = ado::money_or_zero(set.value("billamount"));
+  row.OpenAmount = row.BillAmount - ado::money_or_zero(set.value("PaidAmount"));
+  if (set.has("PaidAmount2")) row.OpenAmount -= ado::money_or_zero(set.value("PaidAmount2"));
 }
 
 std::string sum_of_vouchers(const std::string& bill) {

@@ -4,6 +4,7 @@
 
 #include "brunvik/ado/connection.h"
 #include "brunvik/ado/errors.h"
+#include "brunvik/ado/or_zero.h"
 #include "brunvik/billframe/stock_row.h"
 #include "brunvik/foundation/Brunvik_Variable.h"
 #include "brunvik/foundation/ConnOPT_Function.h"
@@ -41,8 +42,7 @@ std::optional<StockPosition> stock_position(const GoodsKey& key) {
   if (set.at_end()) return std::nullopt;
   GoodsRecord goods;
   if (GetGoodsById(key.id, goods) != 0) return std::nullopt;
-  const Value& sum = set.value("qty");
-  const Money on_hand = sum.is_null() ? Money() : sum.as_money();
+  const Money on_hand = ado::money_or_zero(set.value("qty"));
   return StockPosition{set.value("AverageCost"), on_hand * GoodsUnitConverter(key.id, goods.Unit)};
 }
 

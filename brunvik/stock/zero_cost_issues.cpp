@@ -1,5 +1,6 @@
 #include "brunvik/stock/zero_cost_issues.h"
 
+#include "brunvik/ado/or_zero.h"
 #include "brunvik/foundation/SqlOPT_Function.h"
 #include "brunvik/foundation/sql_text.h"
 
@@ -20,8 +21,7 @@ void update_zero_cost_issues(const ado::ConnectionReference& connection, std::st
     const std::string goods_id = set.value("GId").joined_text();
     const Money factor = GoodsUnitConverter(goods_id, set.value("Unit").joined_text());
     const Money quantity = Money::from_double(factor.to_double() * set.value("ActualQty").as_double());
-    const Value& average = set.value("AverageCost");
-    const Money cost = quantity * (average.is_null() ? Money() : average.as_money());
+    const Money cost = quantity * ado::money_or_zero(set.value("AverageCost"));
     const Value& bill = set.value("BillId");
     run_update(sql("update StockBillItems set Cost={} where Gid={} and RowNum={} and BillId={}", cost, goods_id,
                    set.value("RowNum"), bill));
