@@ -10,6 +10,7 @@
 #include "bench/family_life.h"
 #include "bench/life.h"
 #include "bench/recording.h"
+#include "bench/replay.h"
 
 namespace brunvik::bench {
 
@@ -58,16 +59,10 @@ void counts(benchmark::State& state, const Document& document, Contenders conten
   lay_books_for(document, books);
   const auto connection = open_copy(folder, books, in_memory);
   const auto plain = open_plain_copy(folder, books, in_memory);
-  std::vector<RecordedLife> recorded;
-  for (unsigned seed = 0; seed < lives; ++seed) recorded.push_back(record(connection, document.life, seed));
-  std::vector<PreparedLife> prepared;
-  for (const RecordedLife& life : contenders == Contenders::three ? recorded : std::vector<RecordedLife>()) {
-    PreparedLife& steps = prepared.emplace_back();
-    for (const RecordedStep& step : life) {
-      auto& texts = steps.emplace_back();
-      for (const std::string& text : step.texts) texts.push_back(plain->prepare(text));
-    }
-  }
+  const std::vector<RecordedLife> recorded = record_lives(connection, document.life, lives);
+  const std::vector<PreparedLife> prepared =
+      prepare_lives(contenders == Contenders::three ? recorded : std::vector<RecordedLife>(),
+                    [&](const std::string& text) { return plain->prepare(text); });
 
   const std::size_t none = recorded.front().size();
   for (auto _ : state) {

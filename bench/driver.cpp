@@ -8,6 +8,7 @@
 #include "bench/books.h"
 #include "bench/life.h"
 #include "bench/recording.h"
+#include "bench/replay.h"
 #include "bench/times.h"
 
 namespace brunvik::bench {
@@ -24,38 +25,18 @@ void driver(benchmark::State& state, const Document& document, const Place& plac
   const auto by_text = open_plain_copy(folder, books, place);
   const auto by_statement = open_plain_copy(folder, books, place);
 
-  std::vector<RecordedLife> recorded;
-  for (unsigned seed = 0; seed < lives; ++seed) recorded.push_back(record(connection, document.life, seed));
-  std::vector<std::vector<std::vector<PreparedText>>> prepared;
-  for (const RecordedLife& life : recorded) {
-    auto& steps = prepared.emplace_back();
-    for (const RecordedStep& step : life) {
-      auto& texts = steps.emplace_back();
-      for (const std::string& text : step.texts) texts.push_back(by_statement->prepare(text));
-    }
-  }
+  const std::vector<RecordedLife> recorded = record_lives(connection, document.life, lives);
+  const auto prepared = prepare_lives(recorded, [&](const std::string& text) { return by_statement->prepare(text); });
 
   Times driver_times, text_times, statement_times;
   const auto through_driver = [&](std::size_t seed, Times& times) {
-    for (const RecordedStep& step : recorded[seed]) {
-      times.time(step.verb, [&] {
-        for (const std::string& text : step.texts) connection->Execute(text);
-      });
-    }
+    replay(recorded[seed], times, [&](const std::string& text) { connection->Execute(text); });
   };
   const auto as_text = [&](std::size_t seed, Times& times) {
-    for (const RecordedStep& step : recorded[seed]) {
-      times.time(step.verb, [&] {
-        for (const std::string& text : step.texts) by_text->execute(text);
-      });
-    }
+    replay(recorded[seed], times, [&](const std::string& text) { by_text->execute(text); });
   };
   const auto as_statements = [&](std::size_t seed, Times& times) {
-    for (std::size_t step = 0; step < recorded[seed].size(); ++step) {
-      times.time(recorded[seed][step].verb, [&] {
-        for (const PreparedText& text : prepared[seed][step]) by_statement->execute(text);
-      });
-    }
+    replay(recorded[seed], prepared[seed], times, [&](const PreparedText& text) { by_statement->execute(text); });
   };
   // Not counted: a log is written faster once its file has its size.
   Times ignored;

@@ -10,49 +10,23 @@
 #include "bench/family_life.h"
 #include "bench/life.h"
 #include "bench/recording.h"
+#include "bench/replay.h"
 #include "bench/times.h"
 
 namespace brunvik::bench {
 
 void compare_with_replay(benchmark::State& state, const Document& document,
                          const ado::ConnectionReference& connection) {
-  std::vector<RecordedLife> recorded;
-  for (unsigned seed = 0; seed < recorded_lives; ++seed) recorded.push_back(record(connection, document.life, seed));
-
-  Times verbs, replays, ignored;
-  const auto live = [&](unsigned seed, Times& times) {
-    const Life life = document.life(connection, seed, Numbering::given);
-    bench::live(life, [&](const Step& step) { times.time_step(step, [&] { run(step); }); });
-  };
-  const auto replay = [&](unsigned seed, Times& times) {
-    for (const RecordedStep& step : recorded[seed]) {
-      times.time_step(step, [&] {
-        for (const std::string& text : step.texts) connection->Execute(text);
+  const std::vector<RecordedLife> recorded = record_lives(connection, document.life, recorded_lives);
+  compare_in_turns(
+      state, recorded.front(),
+      [&](unsigned seed, Times& times) {
+        const Life life = document.life(connection, seed, Numbering::given);
+        live(life, [&](const Step& step) { times.time_step(step, [&] { run(step); }); });
+      },
+      [&](unsigned seed, Times& times) {
+        replay(recorded[seed], times, [&](const std::string& text) { connection->Execute(text); });
       });
-    }
-  };
-  // Not counted: a log is written faster once its file has its size.
-  for (unsigned seed = 0; seed < recorded_lives; ++seed) {
-    live(seed, ignored);
-    replay(seed, ignored);
-  }
-  unsigned round = 0;
-  for (auto _ : state) {
-    const unsigned seed = round % recorded_lives;
-    if (round++ % 2 == 0) {
-      live(seed, verbs);
-      replay(seed, replays);
-    } else {
-      replay(seed, replays);
-      live(seed, verbs);
-    }
-  }
-  for (const RecordedStep& step : recorded.front()) {
-    if (!step.timed) continue;
-    state.counters[step.verb] = verbs.median(step.verb) / replays.median(step.verb);
-    state.counters[step.verb + "_us"] = verbs.median(step.verb);
-  }
-  state.counters["all"] = verbs.sum_of_medians() / replays.sum_of_medians();
 }
 
 namespace {

@@ -18,4 +18,11 @@ RecordedLife record(const ado::ConnectionReference& connection, const MakeLife& 
   return recorded;
 }
 
+std::vector<RecordedLife> record_lives(const ado::ConnectionReference& connection, const MakeLife& make,
+                                       unsigned lives) {
+  std::vector<RecordedLife> recorded;
+  for (unsigned seed = 0; seed < lives; ++seed) recorded.push_back(record(connection, make, seed));
+  return recorded;
+}
+
 }  // namespace brunvik::bench

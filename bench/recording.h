@@ -43,4 +43,8 @@ using RecordedLife = std::vector<RecordedStep>;
 // Lives the life of a document once on the connection; the session is the connection's afterwards.
 RecordedLife record(const ado::ConnectionReference& connection, const MakeLife& make, unsigned seed);
 
+// The lives of the first seeds.
+std::vector<RecordedLife> record_lives(const ado::ConnectionReference& connection, const MakeLife& make,
+                                       unsigned lives);
+
 }  // namespace brunvik::bench

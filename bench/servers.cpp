@@ -9,6 +9,7 @@
 #include "bench/comparisons.h"
 #include "bench/plain_odbc.h"
 #include "bench/recording.h"
+#include "bench/replay.h"
 #include "bench/server_books.h"
 #include "bench/times.h"
 #include "drivers/odbc/connection.h"
@@ -63,52 +64,16 @@ void library_share(benchmark::State& state, const Document& document) {
 void driver(benchmark::State& state, const Document& document) {
   const auto connection = odbc::open(Books::few().address());
   PlainOdbc by_hand(Books::few().address());
-  std::vector<RecordedLife> recorded;
-  for (unsigned seed = 0; seed < recorded_lives; ++seed) recorded.push_back(record(connection, document.life, seed));
-  std::vector<std::vector<std::vector<PlainOdbc::Use>>> prepared;
-  for (const RecordedLife& life : recorded) {
-    auto& steps = prepared.emplace_back();
-    for (const RecordedStep& step : life) {
-      auto& uses = steps.emplace_back();
-      for (const std::string& text : step.texts) uses.push_back(by_hand.prepare(text));
-    }
-  }
-
-  Times driver_times, hand_times, ignored;
-  const auto through_driver = [&](std::size_t seed, Times& times) {
-    for (const RecordedStep& step : recorded[seed]) {
-      times.time(step.verb, [&] {
-        for (const std::string& text : step.texts) connection->Execute(text);
+  const std::vector<RecordedLife> recorded = record_lives(connection, document.life, recorded_lives);
+  const auto prepared = prepare_lives(recorded, [&](const std::string& text) { return by_hand.prepare(text); });
+  compare_in_turns(
+      state, recorded.front(),
+      [&](unsigned seed, Times& times) {
+        replay(recorded[seed], times, [&](const std::string& text) { connection->Execute(text); });
+      },
+      [&](unsigned seed, Times& times) {
+        replay(recorded[seed], prepared[seed], times, [&](const PlainOdbc::Use& use) { by_hand.execute(use); });
       });
-    }
-  };
-  const auto as_statements = [&](std::size_t seed, Times& times) {
-    for (std::size_t step = 0; step < recorded[seed].size(); ++step) {
-      times.time(recorded[seed][step].verb, [&] {
-        for (const PlainOdbc::Use& use : prepared[seed][step]) by_hand.execute(use);
-      });
-    }
-  };
-  for (std::size_t seed = 0; seed < recorded_lives; ++seed) {
-    through_driver(seed, ignored);
-    as_statements(seed, ignored);
-  }
-  std::size_t round = 0;
-  for (auto _ : state) {
-    const std::size_t seed = round % recorded_lives;
-    if (round++ % 2 == 0) {
-      through_driver(seed, driver_times);
-      as_statements(seed, hand_times);
-    } else {
-      as_statements(seed, hand_times);
-      through_driver(seed, driver_times);
-    }
-  }
-  for (const RecordedStep& step : recorded.front()) {
-    state.counters[step.verb] = driver_times.median(step.verb) / hand_times.median(step.verb);
-    state.counters[step.verb + "_us"] = driver_times.median(step.verb);
-  }
-  state.counters["all"] = driver_times.sum_of_medians() / hand_times.sum_of_medians();
 }
 
 void growth(benchmark::State& state, const Document& document) {
