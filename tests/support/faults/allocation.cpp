@@ -41,23 +41,13 @@ Frame frame() {
   return frame;
 }
 
-std::vector<std::string> bills(const RehearsedDocument& document, Long code) {
-  std::vector<std::string> statements;
-  for (int place = 1; place <= 3; ++place) {
-    statements.push_back("insert into RGStockBill(Id,ProcessFlag,Status,Supplier,Receiver) values(" +
-                         quoted(document.number(place)) + "," + std::to_string(code) + ",2,'W1','W2')");
-  }
-  const std::string row =
-      "insert into RGStockBillItems(BillId,RowNum,GId,Class,Model1,Model2,unit,qty) values(" + quoted(document.bill());
-  statements.push_back(row + ",1,'G1','五金','M6','','箱',2)");
-  statements.push_back(row + ",2,'G2','五金','M8','','盒',3)");
-  return statements;
-}
-
 RehearsedDocument allocation(const std::string& class_name, const Steps& undo) {
   const Kind& kind = *automation::class_named(class_name).kind;
   RehearsedDocument document{.class_name = class_name, .prefix = std::string(kind.prefix)};
-  document.books = bills(document, *kind.code);
+  document.lay_bills("insert into RGStockBill(Id,ProcessFlag,Status,Supplier,Receiver) values(",
+                     "," + std::to_string(*kind.code) + ",2,'W1','W2')");
+  document.lay_rows("insert into RGStockBillItems(BillId,RowNum,GId,Class,Model1,Model2,unit,qty) values(",
+                    {",1,'G1','五金','M6','','箱',2)", ",2,'G2','五金','M8','','盒',3)"});
   const Frame shared = frame();
   Frame posting = shared;
   posting.rows_added.clear();

@@ -14,17 +14,12 @@ const std::string screws = "'G1','五金','M6','','箱',2,120,'W1',0";
 const std::string nuts = "'G2','五金','M8','','盒',3,5,'W1',0";
 
 // Three bills for boxes of screws; the second has boxes of screws and packs of nuts for its parts.
-std::vector<std::string> bills(const RehearsedDocument& document) {
+void lay_bills(RehearsedDocument& document) {
   const Long type = automation::class_named(document.class_name).kind->code.value();
-  std::vector<std::string> statements;
-  for (int place = 1; place <= 3; ++place) {
-    statements.push_back("insert into GoodsBill(Id,Type,InOutFlag,Status," + item_columns + ") values(" +
-                         quoted(document.number(place)) + "," + std::to_string(type) + ",1,2," + screws + ")");
-  }
-  const std::string row = "insert into GoodsBillItems(BillId,RowNum," + row_columns + ") values(";
-  statements.push_back(row + quoted(document.bill()) + ",1," + screws + ")");
-  statements.push_back(row + quoted(document.bill()) + ",2," + nuts + ")");
-  return statements;
+  document.lay_bills("insert into GoodsBill(Id,Type,InOutFlag,Status," + item_columns + ") values(",
+                     "," + std::to_string(type) + ",1,2," + screws + ")");
+  document.lay_rows("insert into GoodsBillItems(BillId,RowNum," + row_columns + ") values(",
+                    {",1," + screws + ")", ",2," + nuts + ")"});
 }
 
 Steps undo(const PostedRow& row) { return base_quantity(row) + Steps{ends("session|update Inventory set ")}; }
@@ -53,7 +48,7 @@ RehearsedDocument assembly_document(const std::string& class_name, const std::ve
   frame.header_read = ends("bill|select GoodsBill.*,warehouse.WName from GoodsBill ");
   RehearsedDocument document{.class_name = class_name};
   document.prefix = automation::class_named(class_name).kind->prefix;
-  document.books = bills(document);
+  lay_bills(document);
   document.verbs = with_frame(class_name, document.prefix, frame, {{"Audit", {}, audit}, {"UndoAudit", {}, back}});
   return document;
 }

@@ -12,20 +12,13 @@ const Step header_of_the_goods = ends("session|select * from GBorrowBill where I
 const Step stored_goods = ends("session|select * from GBorrowItems where BillId=");
 
 // Three documents; the second has two rows, the goods of which all came back or changed hands.
-std::vector<std::string> documents(const RehearsedDocument& document) {
+void lay_documents(RehearsedDocument& document) {
   const Long type = automation::class_named(document.class_name).kind->code.value();
-  std::vector<std::string> statements;
-  for (int place = 1; place <= 3; ++place) {
-    statements.push_back("insert into GBorrowBill(Id,Type,InOutFlag,Status) values(" + quoted(document.number(place)) +
-                         "," + std::to_string(type) + ",1,2)");
-  }
-  const std::string row =
+  document.lay_bills("insert into GBorrowBill(Id,Type,InOutFlag,Status) values(", "," + std::to_string(type) + ",1,2)");
+  document.lay_rows(
       "insert into GBorrowItems(BillId,RowNum,GId,Class,Model1,Model2,unit,Uqty,ActualQty,Receiver,Supplier,GoodStutas)"
-      " values(" +
-      quoted(document.bill());
-  statements.push_back(row + ",1,'G1','五金','M6','','箱',2,2,'W1','W1',0)");
-  statements.push_back(row + ",2,'G2','五金','M8','','盒',3,3,'W1','W1',0)");
-  return statements;
+      " values(",
+      {",1,'G1','五金','M6','','箱',2,2,'W1','W1',0)", ",2,'G2','五金','M8','','盒',3,3,'W1','W1',0)"});
 }
 
 Steps undo(const PostedRow& row) { return base_quantity(row) + Steps{ends("session|update Inventory set ")}; }
@@ -89,15 +82,10 @@ Verbs conversion(const RehearsedDocument& document, const std::string& side, con
   };
 }
 
-Verbs operator+(Verbs left, const Verbs& right) {
-  left.insert(left.end(), right.begin(), right.end());
-  return left;
-}
-
 RehearsedDocument borrow_document(const std::string& class_name, Verbs (*own)(const RehearsedDocument&, const Frame&)) {
   RehearsedDocument document{.class_name = class_name};
   document.prefix = automation::class_named(class_name).kind->prefix;
-  document.books = documents(document);
+  lay_documents(document);
   Frame frame = frame_over("GBorrowBill", "GBorrowItems");
   if (class_name == "clsBorrowInReturn") frame.last = ends("bill|select TOP 1 * from GBorrowBill where type=30 ");
   document.verbs = with_frame(class_name, document.prefix, frame, own(document, frame));

@@ -2,6 +2,8 @@
 
 #include <stdexcept>
 
+#include "tests/support/faults/books.h"
+
 namespace brunvik::test {
 
 namespace {
@@ -14,6 +16,21 @@ std::vector<Make>& collected() {
 }
 
 }  // namespace
+
+void RehearsedDocument::lay_bills(const std::string& insert, const std::string& values) {
+  lay_bills(insert, values, values);
+}
+
+void RehearsedDocument::lay_bills(const std::string& insert, const std::string& values,
+                                  const std::string& values_of_the_second) {
+  for (int place = 1; place <= 3; ++place) {
+    books.push_back(insert + quoted(number(place)) + (place == 2 ? values_of_the_second : values));
+  }
+}
+
+void RehearsedDocument::lay_rows(const std::string& insert, const std::vector<std::string>& rows) {
+  for (const std::string& row : rows) books.push_back(insert + quoted(bill()) + row);
+}
 
 Rehearsed::Rehearsed(Make document) { collected().push_back(document); }
 

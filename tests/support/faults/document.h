@@ -46,6 +46,14 @@ struct RehearsedDocument {
   // The number of one of its bills, counted from 1; 9 is the number of none.
   std::string number(int place) const { return prefix + "2403050000" + std::to_string(place); }
   std::string bill() const { return number(2); }
+
+  // Adds the statements that lay its bills: each begins with the insert, to which the number comes, and ends with the
+  // values behind that. Those of the second bill may be others.
+  void lay_bills(const std::string& insert, const std::string& values);
+  void lay_bills(const std::string& insert, const std::string& values, const std::string& values_of_the_second);
+
+  // Adds those that lay rows of the second bill, in the same way.
+  void lay_rows(const std::string& insert, const std::vector<std::string>& rows);
 };
 
 // Collects a document.

@@ -19,25 +19,18 @@ namespace {
 
 // Three bills; the second has two rows: boxes of screws, which are kept by the piece, and packs of nuts, whose balance
 // is still to be made.
-std::vector<std::string> stock_bills(const RehearsedDocument& document, const Stock& stock) {
+void lay_stock_bills(RehearsedDocument& document, const Stock& stock) {
   const auto second_of = [](const std::string& prefix) {
     return quoted(prefix.empty() ? "" : RehearsedDocument{.prefix = prefix}.bill());
   };
   const Long type = automation::class_named(document.class_name).kind->code.value();
-  std::vector<std::string> statements;
-  for (int place = 1; place <= 3; ++place) {
-    statements.push_back(
-        "insert into StockBill(Id,Type,InOutFlag,Status,CloseAmount,Amount,Nowpaybillid,NowAdvanceBillID) values(" +
-        quoted(document.number(place)) + "," + std::to_string(type) + ",1,2,100,100," + second_of(stock.voucher) + "," +
-        second_of(stock.advance) + ")");
-  }
-  const std::string row =
+  document.lay_bills(
+      "insert into StockBill(Id,Type,InOutFlag,Status,CloseAmount,Amount,Nowpaybillid,NowAdvanceBillID) values(",
+      "," + std::to_string(type) + ",1,2,100,100," + second_of(stock.voucher) + "," + second_of(stock.advance) + ")");
+  document.lay_rows(
       "insert into StockBillItems(BillId,RowNum,GId,Class,Model1,Model2,unit,qty,ActualQty,price,Receiver,Supplier,"
-      "GoodStutas) values(" +
-      quoted(document.bill());
-  statements.push_back(row + ",1,'G1','五金','M6','','箱',2,2,120,'W1','W1',0)");
-  statements.push_back(row + ",2,'G2','五金','M8','','盒',3,3,5,'W1','W1',0)");
-  return statements;
+      "GoodStutas) values(",
+      {",1,'G1','五金','M6','','箱',2,2,120,'W1','W1',0)", ",2,'G2','五金','M8','','盒',3,3,5,'W1','W1',0)"});
 }
 
 }  // namespace
@@ -120,7 +113,7 @@ Verbs with_frame(const std::string& class_name, const std::string& prefix, const
 RehearsedDocument stock_document(const std::string& class_name, Verbs own, const Stock& stock) {
   RehearsedDocument document{.class_name = class_name, .prefix = stock.prefix};
   if (document.prefix.empty()) document.prefix = automation::class_named(class_name).kind->prefix;
-  document.books = stock_bills(document, stock);
+  lay_stock_bills(document, stock);
   document.verbs = with_frame(class_name, document.prefix, stock.frame, std::move(own));
   return document;
 }

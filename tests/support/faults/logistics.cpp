@@ -50,19 +50,11 @@ Steps journal_taken_back() {
 
 const Rehearsed shipment([] {
   RehearsedDocument document{.class_name = "clsSendGoodsBill", .prefix = "PHF"};
-  for (int place = 1; place <= 3; ++place) {
-    document.books.push_back("insert into SendGoodsBill(Id,Receiver,Status) values(" + quoted(document.number(place)) +
-                             ",'王',2)");
-  }
-  for (const char* row : {",1,'G1')", ",2,'G2')"}) {
-    document.books.push_back("insert into SendGoodsBillItems(Billid,Rownum,Gid) values(" + quoted(document.bill()) +
-                             row);
-  }
+  document.lay_bills("insert into SendGoodsBill(Id,Receiver,Status) values(", ",'王',2)");
+  document.lay_rows("insert into SendGoodsBillItems(Billid,Rownum,Gid) values(", {",1,'G1')", ",2,'G2')"});
   // The second of its bills stays marked when the shipment goes.
-  for (const char* row : {",'XSC24030500001',5,0)", ",'XSC24030500002',5,1)"}) {
-    document.books.push_back("insert into SendBillItems(Billid,Bid,DYType,DJBJ) values(" + quoted(document.bill()) +
-                             row);
-  }
+  document.lay_rows("insert into SendBillItems(Billid,Bid,DYType,DJBJ) values(",
+                    {",'XSC24030500001',5,0)", ",'XSC24030500002',5,1)"});
   document.books.push_back("insert into ZHJYXX(ID,ZHID,JYJE,JYLX,DYDJH) values('7','A1',30,-1," +
                            quoted(document.bill()) + ")");
   const Frame frame = shipment_frame();
@@ -95,14 +87,9 @@ Step told(const std::string& worker, const std::string& begins) {
 
 const Rehearsed freight_settlement([] {
   RehearsedDocument document{.class_name = "clsSendGoodsVouchersbill", .prefix = "WLX"};
-  for (int place = 1; place <= 3; ++place) {
-    document.books.push_back("insert into SendGoodsVouchersbill(Id,Ccompany,Status) values(" +
-                             quoted(document.number(place)) + ",'K1',2)");
-  }
-  for (const char* row : {",1,'PHF24030500001',60)", ",2,'PHF24030500002',40)"}) {
-    document.books.push_back("insert into SendGoodsVouchersbillItems(BID,RowNum,RPableBID,Amount) values(" +
-                             quoted(document.bill()) + row);
-  }
+  document.lay_bills("insert into SendGoodsVouchersbill(Id,Ccompany,Status) values(", ",'K1',2)");
+  document.lay_rows("insert into SendGoodsVouchersbillItems(BID,RowNum,RPableBID,Amount) values(",
+                    {",1,'PHF24030500001',60)", ",2,'PHF24030500002',40)"});
   const std::string sought = "select * from SendGoodsVouchersbill where Id=";
   const Step row_added = told("AddSendGoodsVouchersbillItems", "insert into SendGoodsVouchersbillItems(");
   Frame frame = frame_over("SendGoodsVouchersbill", "SendGoodsVouchersbillItems");

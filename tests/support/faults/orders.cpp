@@ -31,14 +31,10 @@ Value link_in(const Side& side, const std::string& order, const std::shared_ptr<
 
 RehearsedDocument order(const Side& side) {
   RehearsedDocument document{.class_name = side.class_name, .prefix = side.prefix};
-  for (int place = 1; place <= 3; ++place) {
-    document.books.push_back("insert into " + side.header + "(Id) values(" + quoted(document.number(place)) + ")");
-  }
+  document.lay_bills("insert into " + side.header + "(Id) values(", ")");
   // The rows are full, so that the order can be closed.
-  for (const char* row : {",1,'G1',24,24)", ",2,'G2',3,3)"}) {
-    document.books.push_back("insert into " + side.rows + "(BillId,RowNum,GId,qty,Actualqty) values(" +
-                             quoted(document.bill()) + row);
-  }
+  document.lay_rows("insert into " + side.rows + "(BillId,RowNum,GId,qty,Actualqty) values(",
+                    {",1,'G1',24,24)", ",2,'G2',3,3)"});
   Frame frame = frame_over(side.header, side.rows);
   frame.rows_read = {ends(side.rows_read)};
   frame.last = ends("bill|select TOP 1 * from " + side.header + " where id like '" + side.prefix + "%'");

@@ -42,15 +42,10 @@ RehearsedDocument other_money(const std::string& class_name, const AuditTags& ta
   const Kind& kind = *automation::class_named(class_name).kind;
   RehearsedDocument document{.class_name = class_name, .prefix = std::string(kind.prefix)};
   const std::string voucher = words.is_receipt ? "SKD24030500002" : "FKD24030500002";
-  for (int place = 1; place <= 3; ++place) {
-    document.books.push_back("insert into OthersIEBill(Id,Type,Status,Closeamount,Amount,Nowpaybillid) values(" +
-                             quoted(document.number(place)) + "," + std::to_string(*kind.code) + ",2,40,40," +
-                             quoted(place == 2 ? voucher : "") + ")");
-  }
-  for (const char* row : {",1,'X1')", ",2,'X2')"}) {
-    document.books.push_back("insert into OthersIEBillItems(Billid,Rownum,Itemid) values(" + quoted(document.bill()) +
-                             row);
-  }
+  const std::string values = "," + std::to_string(*kind.code) + ",2,40,40,";
+  document.lay_bills("insert into OthersIEBill(Id,Type,Status,Closeamount,Amount,Nowpaybillid) values(", values + "'')",
+                     values + quoted(voucher) + ")");
+  document.lay_rows("insert into OthersIEBillItems(Billid,Rownum,Itemid) values(", {",1,'X1')", ",2,'X2')"});
   const std::string status_of = " where Id=" + quoted(document.bill());
   Verbs own;
   for (const bool draft : {false, true}) {

@@ -20,14 +20,10 @@ Frame frame() {
 RehearsedDocument plan(const std::string& class_name) {
   const Kind& kind = *automation::class_named(class_name).kind;
   RehearsedDocument document{.class_name = class_name, .prefix = std::string(kind.prefix)};
-  for (int place = 1; place <= 3; ++place) {
-    document.books.push_back("insert into PlansBill(Id,Type,Status,PayBillId) values(" +
-                             quoted(document.number(place)) + "," + std::to_string(*kind.code) + ",3,'0')");
-  }
-  for (const char* row : {",'JHR24030500001',2)", ",'QTS24030500001',17)"}) {
-    document.books.push_back("insert into PlansBillItems(PlanId,OTBillId,BillType) values(" + quoted(document.bill()) +
-                             row);
-  }
+  document.lay_bills("insert into PlansBill(Id,Type,Status,PayBillId) values(",
+                     "," + std::to_string(*kind.code) + ",3,'0')");
+  document.lay_rows("insert into PlansBillItems(PlanId,OTBillId,BillType) values(",
+                    {",'JHR24030500001',2)", ",'QTS24030500001',17)"});
   const Frame shared = frame();
   const Steps read =
       Steps{ends("bill|select PlansBill.*,ContactsCompany.FullName from PlansBill left join ")} + shared.rows_read;

@@ -100,10 +100,7 @@ void read_receipt(PublicObject& sharing) {
 
 const Rehearsed cost_sharing([] {
   RehearsedDocument document{.class_name = "clsShareCost", .prefix = "FTD"};
-  for (int place = 1; place <= 3; ++place) {
-    document.books.push_back("insert into PurchaseShareCost(Id,PurChaseBill,BillCost) values(" +
-                             quoted(document.number(place)) + ",'JHR24030500002',12)");
-  }
+  document.lay_bills("insert into PurchaseShareCost(Id,PurChaseBill,BillCost) values(", ",'JHR24030500002',12)");
   for (const char* row : {"1", "2"}) {
     document.books.push_back("insert into PurChaseCostItems(BillId,RowNum,Amount) values(" + quoted(document.bill()) +
                              "," + row + ",6)");
@@ -202,9 +199,7 @@ Steps arrival_undo() {
 
 const Rehearsed arrival([] {
   RehearsedDocument document{.class_name = "ClsAdjustInBill", .prefix = "DHR"};
-  for (int place = 1; place <= 3; ++place) {
-    document.books.push_back("insert into AdjustInBill(Id,Status) values(" + quoted(document.number(place)) + ",2)");
-  }
+  document.lay_bills("insert into AdjustInBill(Id,Status) values(", ",2)");
   int place = 0;
   for (const auto& [number, row] : arrived_receipts()) {
     document.books.push_back("insert into StockBill(Id,Type,InOutFlag,Status) values(" + quoted(number) + ",2,1,2)");

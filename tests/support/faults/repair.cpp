@@ -140,26 +140,21 @@ Frame repair_frame() {
   return frame;
 }
 
-std::vector<std::string> bills(const RehearsedDocument& document, Long code, const Repair& repair) {
-  std::vector<std::string> statements;
-  for (int place = 1; place <= 3; ++place) {
-    statements.push_back("insert into RGStockBill(Id,ProcessFlag,Status,NowPayBillId) values(" +
-                         quoted(document.number(place)) + "," + std::to_string(code) + ",2," +
-                         quoted(place == 2 ? repair.voucher : "") + ")");
-  }
-  const std::string row =
+void lay_bills(RehearsedDocument& document, Long code, const Repair& repair) {
+  const std::string values = "," + std::to_string(code) + ",2,";
+  document.lay_bills("insert into RGStockBill(Id,ProcessFlag,Status,NowPayBillId) values(", values + "'')",
+                     values + quoted(repair.voucher) + ")");
+  document.lay_rows(
       "insert into RGStockBillItems(BillId,RowNum,GId,Class,Model1,Model2,unit,qty,StoreHouse,OutHouse,GuanLianBill,"
-      "DYRowNum,DYGId) values(" +
-      quoted(document.bill());
-  statements.push_back(row + ",1,'G1','五金','M6','','箱',2,'W1','W1','BXR24030500002',1,'G1')");
-  statements.push_back(row + ",2,'G2','五金','M8','','盒',3,'W1','W1','BXR24030500002',2,'G2')");
-  return statements;
+      "DYRowNum,DYGId) values(",
+      {",1,'G1','五金','M6','','箱',2,'W1','W1','BXR24030500002',1,'G1')",
+       ",2,'G2','五金','M8','','盒',3,'W1','W1','BXR24030500002',2,'G2')"});
 }
 
 RehearsedDocument repair_document(const std::string& class_name, const Repair& repair, Verbs own = {}) {
   const Kind& kind = *automation::class_named(class_name).kind;
   RehearsedDocument document{.class_name = class_name, .prefix = std::string(kind.prefix)};
-  document.books = bills(document, *kind.code, repair);
+  lay_bills(document, *kind.code, repair);
   const Frame frame = repair_frame();
   const Steps removed{ends_telling(" Delete(): ", "bill| Delete from RGStockBill where Id="),
                       ends_telling(" Delete(): ", "bill| Delete from RGStockBillItems where BillId=")};

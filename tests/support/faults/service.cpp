@@ -11,16 +11,9 @@ Step told(const std::string& verb, const std::string& begins) {
 }
 
 // Three tickets at a stage, with these columns beside.
-std::vector<std::string> tickets(const RehearsedDocument& document, int stage, const std::string& columns,
-                                 const std::string& values) {
-  const std::string begin = "insert into AfterServiceBill(BillId,ProcessFlag" + columns + ") values(";
-  const std::string rest = "," + std::to_string(stage) + values + ")";
-  std::vector<std::string> statements;
-  for (int place = 1; place <= 3; ++place) {
-    std::string& statement = statements.emplace_back(begin);
-    statement.append(quoted(document.number(place))).append(rest);
-  }
-  return statements;
+void lay_tickets(RehearsedDocument& document, int stage, const std::string& columns, const std::string& values) {
+  document.lay_bills("insert into AfterServiceBill(BillId,ProcessFlag" + columns + ") values(",
+                     "," + std::to_string(stage) + values + ")");
 }
 
 // Reading and walking; `walked` is how a search for a number begins behind "where ".
@@ -66,7 +59,7 @@ void add(RehearsedDocument& document, const Verbs& verbs) {
 
 const Rehearsed staged_ticket([] {
   RehearsedDocument document{.class_name = "clsAfterServiceBillInfoOLD", .prefix = "SFD"};
-  document.books = tickets(document, 2, ",KeHuBH,PayType,PaidAmount", ",'C1','A1',30");
+  lay_tickets(document, 2, ",KeHuBH,PayType,PaidAmount", ",'C1','A1',30");
   const Step completed = told("Complete", "update AfterServiceBill set KeHuBH = ");
   const std::string balance = "balance";
   add(document, requests(document, "SaveRequest"));
@@ -92,7 +85,7 @@ const Rehearsed staged_ticket([] {
 
 const Rehearsed short_ticket([] {
   RehearsedDocument document{.class_name = "clsAfterServiceBillInfo", .prefix = "SFE"};
-  document.books = tickets(document, 1, ",Type,BorrowBill", ",34,'GJC24030500001'");
+  lay_tickets(document, 1, ",Type,BorrowBill", ",34,'GJC24030500001'");
   add(document, requests(document, "SaveRequest"));
   add(document, requests(document, "SaveAfterServiceBillInfo"));
   add(document,
@@ -109,7 +102,7 @@ const Rehearsed short_ticket([] {
 
 const Rehearsed closing([] {
   RehearsedDocument document{.class_name = "clsAfterServiceWGBill", .prefix = "SFF"};
-  document.books = tickets(document, 3, ",Type", ",34");
+  lay_tickets(document, 3, ",Type", ",34");
   add(document, {
                     {"Delete", {}, {removed}},
                     {"Save",

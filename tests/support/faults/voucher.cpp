@@ -70,24 +70,16 @@ Steps voucher_settled(const VoucherWords& words, const std::string& verb) {
   return steps;
 }
 
-std::vector<std::string> voucher_bills(const RehearsedDocument& document, const VoucherWords& words) {
+void lay_vouchers(RehearsedDocument& document, const VoucherWords& words) {
   const Long type = automation::class_named(document.class_name).kind->code.value();
-  std::vector<std::string> statements;
-  for (int place = 1; place <= 3; ++place) {
-    statements.push_back("insert into " + words.header + "(Id,Type,Status,Paidamount,Amount,Nowpay) values(" +
-                         quoted(document.number(place)) + "," + std::to_string(type) + ",2,100,100,0)");
-  }
-  const std::string bill = quoted(document.bill());
+  document.lay_bills("insert into " + words.header + "(Id,Type,Status,Paidamount,Amount,Nowpay) values(",
+                     "," + std::to_string(type) + ",2,100,100,0)");
   if (!words.money.empty()) {
-    for (const char* row : {",1,1,60)", ",2,2,40)"}) {
-      statements.push_back("insert into " + words.money + "(BID,RowNum,MeansOfPayment,Amount) values(" + bill + row);
-    }
+    document.lay_rows("insert into " + words.money + "(BID,RowNum,MeansOfPayment,Amount) values(",
+                      {",1,1,60)", ",2,2,40)"});
   }
-  for (const char* row : {",1,'JHR24030500001',2,60)", ",2,'QTS24030500001',17,40)"}) {
-    statements.push_back("insert into " + words.settled + "(BID,RowNum,RPableBID,RPableBType,Amount) values(" + bill +
-                         row);
-  }
-  return statements;
+  document.lay_rows("insert into " + words.settled + "(BID,RowNum,RPableBID,RPableBType,Amount) values(",
+                    {",1,'JHR24030500001',2,60)", ",2,'QTS24030500001',17,40)"});
 }
 
 Verbs voucher_verbs(const RehearsedDocument& document, const VoucherWords& words) {
@@ -169,7 +161,7 @@ Steps beside(const VoucherWords& words, const std::string& verb) {
 RehearsedDocument voucher(const std::string& class_name, const VoucherWords& words) {
   RehearsedDocument document{.class_name = class_name,
                              .prefix = std::string(automation::class_named(class_name).kind->prefix)};
-  document.books = voucher_bills(document, words);
+  lay_vouchers(document, words);
   document.verbs = voucher_verbs(document, words);
   return document;
 }
