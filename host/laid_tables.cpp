@@ -41,6 +41,22 @@ std::string_view names_of_columns(schema::Engine engine) {
                "where table_schema=schema_name() order by table_name, ordinal_position";
 }
 
+// In their order.
+constexpr std::string_view columns_of_mariadb_keys =
+    "select table_name as t, column_name as name from information_schema.statistics where table_schema=database() and "
+    "index_name='PRIMARY' order by table_name, seq_in_index";
+
+// Hands each name to the table that it belongs to.
+template <class Take>
+void take_names(Laid& tables, ado::Recordset names, Take&& take) {
+  for (; !names.at_end(); names.MoveNext()) {
+    const std::string name = names.value("t").as_text();
+    const auto table =
+        std::find_if(tables.begin(), tables.end(), [&name](const auto& laid) { return laid.name == name; });
+    if (table != tables.end()) take(*table).push_back(names.value("name").as_text());
+  }
+}
+
 Laid laid_on_a_server(ado::Connection& database, schema::Engine engine) {
   Laid tables;
   ado::Recordset columns = database.Execute(names_of_columns(engine));
@@ -49,12 +65,11 @@ Laid laid_on_a_server(ado::Connection& database, schema::Engine engine) {
     if (tables.empty() || tables.back().name != name) tables.push_back({name, {}, {}});
     tables.back().columns.push_back(columns.value("name").as_text());
   }
-  ado::Recordset indexes = database.Execute(names_of_indexes(engine));
-  for (; !indexes.at_end(); indexes.MoveNext()) {
-    const std::string name = indexes.value("t").as_text();
-    const auto table =
-        std::find_if(tables.begin(), tables.end(), [&name](const auto& laid) { return laid.name == name; });
-    if (table != tables.end()) table->indexes.push_back(indexes.value("name").as_text());
+  take_names(
+      tables, database.Execute(names_of_indexes(engine)), [](auto& table) -> auto& { return table.indexes; });
+  if (engine == schema::Engine::mariadb) {
+    take_names(
+        tables, database.Execute(columns_of_mariadb_keys), [](auto& table) -> auto& { return table.key; });
   }
   return tables;
 }

@@ -18,7 +18,28 @@ std::string replaced(std::string text, std::string_view from, std::string_view t
   return text;
 }
 
+bool same_name(std::string_view left, std::string_view right) {
+  const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; };
+  return std::ranges::equal(left, right, {}, lower, lower);
+}
+
+bool has(const std::vector<std::string>& names, std::string_view name) {
+  return std::ranges::any_of(names, [name](const std::string& other) { return same_name(name, other); });
+}
+
 // One name, or several separated by ", ".
+std::vector<std::string> names_of(std::string_view text) {
+  constexpr std::string_view between = ", ";
+  std::vector<std::string> names;
+  while (!text.empty()) {
+    const std::size_t end = std::min(text.find(between), text.size());
+    names.emplace_back(text.substr(0, end));
+    text.remove_prefix(std::min(end + between.size(), text.size()));
+  }
+  return names;
+}
+
+// Each of such names in its quotes.
 std::string quoted(const EngineWords& words, std::string_view names) {
   const std::string between = std::string(words.closing_quote) + ", " + std::string(words.opening_quote);
   return std::string(words.opening_quote) + replaced(std::string(names), ", ", between) +
@@ -39,6 +60,11 @@ std::string own_column_definition(const EngineWords& words, const OwnColumn& col
   return quoted(words, column.name) + " " + column.definition;
 }
 
+// That of a column by which the rows of a new table are in order.
+std::string ordered_column_definition(const EngineWords& words, const Table& table, const Column& column) {
+  return column_definition(words, table, column) + " NOT NULL DEFAULT " + (column.type == Type::Key ? "''" : "0");
+}
+
 std::string create_table(const EngineWords& words, const Table& table) {
   std::string text = "CREATE TABLE " + quoted(words, table.name) + " (";
   std::string_view separator = "\n  ";
@@ -46,13 +72,25 @@ std::string create_table(const EngineWords& words, const Table& table) {
     text.append(separator).append(definition);
     separator = ",\n  ";
   };
-  for (const Column& column : table.columns) put(column_definition(words, table, column));
+  const std::string order = words.order(table);
+  const std::vector<std::string> in_order = names_of(order);
+  for (const Column& column : table.columns) {
+    put(has(in_order, column.name) ? ordered_column_definition(words, table, column)
+                                   : column_definition(words, table, column));
+  }
   for (const OwnColumn& column : words.own_columns(table)) put(own_column_definition(words, column));
+  if (!order.empty()) put("PRIMARY KEY (" + quoted(words, order) + ")");
   return text + "\n)" + std::string(words.table_end);
 }
 
 std::string add_column(const EngineWords& words, const Table& table, const std::string& definition) {
   return "ALTER TABLE " + quoted(words, table.name) + " " + std::string(words.add) + definition;
+}
+
+// Whether the rows lie in the order of an index, and are found without it.
+bool begins_with(const std::vector<std::string>& key, const Index& index) {
+  const std::vector<std::string> columns = names_of(index.columns);
+  return columns.size() <= key.size() && std::ranges::equal(columns, std::span(key).first(columns.size()), same_name);
 }
 
 // By the columns alone: an older index over all rows answers whatever one over some of them does.
@@ -70,15 +108,6 @@ std::string create_index(const EngineWords& words, const Table& table, const Ind
                      " (" + quoted(words, index.columns) + ")";
   if (!index.condition.empty()) text += " WHERE " + index.condition;
   return text;
-}
-
-bool same_name(std::string_view left, std::string_view right) {
-  const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; };
-  return std::ranges::equal(left, right, {}, lower, lower);
-}
-
-bool has(const std::vector<std::string>& names, std::string_view name) {
-  return std::ranges::any_of(names, [name](const std::string& other) { return same_name(name, other); });
 }
 
 // Appends what adds the columns that a table lacks.
@@ -99,7 +128,8 @@ void add_columns(const EngineWords& words, const Table& table, const LaidTable& 
   }
   for (const OwnColumn& column : words.own_columns(table)) {
     if (has(there.columns, column.name) || has(there.indexes, column.needless_with)) continue;
-    list.push_back(add_column(words, table, own_column_definition(words, column)));
+    const OwnColumn added{column.name, column.added.empty() ? column.definition : column.added};
+    list.push_back(add_column(words, table, own_column_definition(words, added)));
   }
 }
 
@@ -129,7 +159,9 @@ std::vector<std::string> lacking(Engine engine, std::span<const Table> tables, s
     } else {
       list.push_back(create_table(words, table));
     }
+    const std::vector<std::string> key = is_there ? there.key : names_of(words.order(table));
     for (const Index& index : words.indexes(table)) {
+      if (begins_with(key, index)) continue;
       if (!has(there.indexes, index_name(table, index))) list.push_back(create_index(words, table, index));
     }
   }

@@ -32,6 +32,7 @@ struct LaidTable {
   std::string name;
   std::vector<std::string> columns;
   std::vector<std::string> indexes;
+  std::vector<std::string> key = {};  // the columns of MariaDB's primary key, in its order
 };
 
 // What these tables lack, in an order in which it can be run: tables, columns, indexes. Nothing is ever taken away or

@@ -39,15 +39,26 @@ Declaration declaration(Type type) {
 
 std::string number_column(const Table& table) { return "NumberOf" + std::string(table.numbered); }
 
-// A cluster wants a primary key in every table. And it knows no index over an expression: the number that a text stands
-// for is kept in a column, null where the text is no plain number, so that one index tells the highest number and
-// whether there is such a text. Without the question what the text looks like, one that is no number would refuse the
-// update that writes it.
+// A cluster wants a primary key in every table. The rows lie in its order, and every other index leads through it:
+// where the rows of a bill lie together, they are found without an index of their own and without a way through the key
+// for each. A number that the engine counts up wants an index for itself. One of UUID_SHORT doesn't, and rises as well;
+// it has to tell apart no more than two rows of one bill and one number.
+OwnColumn row_key(const Table& table) {
+  const std::string type = "BIGINT UNSIGNED NOT NULL ";
+  const std::string counted = type + "AUTO_INCREMENT INVISIBLE PRIMARY KEY";
+  return {"RowKey", table.order.empty() ? counted : type + "DEFAULT (UUID_SHORT()) INVISIBLE", "PRIMARY", counted};
+}
+
+std::string order(const Table& table) {
+  return table.order.empty() ? "" : std::string(table.order) + ", " + row_key(table).name;
+}
+
+// The engine knows no index over an expression: the number that a text stands for is kept in a column, null where the
+// text is no plain number, so that one index tells the highest number and whether there is such a text. Without the
+// question what the text looks like, one that is no number would refuse the update that writes it.
 std::vector<OwnColumn> own_columns(const Table& table) {
   std::vector<OwnColumn> list;
-  if (table.key.empty()) {
-    list.push_back({"RowKey", "BIGINT UNSIGNED NOT NULL AUTO_INCREMENT INVISIBLE PRIMARY KEY", "PRIMARY"});
-  }
+  if (table.key.empty()) list.push_back(row_key(table));
   if (!table.numbered.empty()) {
     const std::string text = "`" + std::string(table.numbered) + "`";
     list.push_back({number_column(table), "INT GENERATED ALWAYS AS (CASE WHEN CHAR_LENGTH(" + text +
@@ -72,6 +83,7 @@ const EngineWords& mariadb_words() {
       .declaration = declaration,
       .table_end = " ENGINE=InnoDB ROW_FORMAT=DYNAMIC DEFAULT CHARACTER SET=utf8mb4 COLLATE=utf8mb4_uca1400_as_ci",
       .own_columns = own_columns,
+      .order = order,
       .indexes = indexes,
   };
   return words;

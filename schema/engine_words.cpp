@@ -18,6 +18,8 @@ const EngineWords& words_of(Engine engine) {
 
 std::vector<OwnColumn> no_own_columns(const Table&) { return {}; }
 
+std::string no_order(const Table&) { return {}; }
+
 Index described_index(std::string_view text) {
   constexpr std::string_view where = " where ";
   const auto condition = text.find(where);

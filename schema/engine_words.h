@@ -22,6 +22,7 @@ struct OwnColumn {
   std::string name;
   std::string definition;
   std::string needless_with = {};  // the index beside which a table doesn't want the column; empty: none
+  std::string added = {};          // how a table gets it that is there; empty: by the definition
 };
 
 struct Index {
@@ -31,6 +32,9 @@ struct Index {
 
 // Of an engine that needs none.
 std::vector<OwnColumn> no_own_columns(const Table& table);
+
+// Of an engine that keeps no rows in an order of their own.
+std::string no_order(const Table& table);
 
 // An index as it is described.
 Index described_index(std::string_view text);
@@ -53,6 +57,9 @@ struct EngineWords {
   // Whether they get it by an update of its own.
   bool updates_rows = false;
   std::vector<OwnColumn> (*own_columns)(const Table& table) = no_own_columns;
+  // The columns of the primary key in whose order a table is laid, separated by ", "; empty: in that of its key, or
+  // none.
+  std::string (*order)(const Table& table) = no_order;
   std::vector<Index> (*indexes)(const Table& table) = plain_indexes;
 };
 

@@ -39,6 +39,9 @@ struct Table {
   std::span<const std::string_view> indexes = {};
   // The Key whose highest number is asked for, as the number that its text stands for; empty: none.
   std::string_view numbered = {};
+  // One of the indexes, in whose order an engine may keep the rows themselves. Where it does, its columns hold no null:
+  // a row that is entered without one of them gets an empty text or zero. Empty: none.
+  std::string_view order = {};
 };
 
 // All tables, master data first. The description lives as long as the process.

@@ -68,7 +68,9 @@ constexpr Column voucher_money[] = {
     {"Amount", Money, zero},
     {"Remarks", Memo},
 };
-constexpr std::string_view voucher_money_indexes[] = {"BID, RowNum"};
+// The rows of a voucher, in their order. They come and go together and are never changed.
+constexpr std::string_view of_voucher = "BID, RowNum";
+constexpr std::string_view voucher_money_indexes[] = {of_voucher};
 
 constexpr Column settled_bill[] = {
     {"BID", Key},
@@ -79,7 +81,7 @@ constexpr Column settled_bill[] = {
     {"Remarks", Memo},
 };
 // The second for what other vouchers have settled of the same bill.
-constexpr std::string_view settled_bill_indexes[] = {"BID, RowNum", "RPableBID"};
+constexpr std::string_view settled_bill_indexes[] = {of_voucher, "RPableBID"};
 
 constexpr Column plans_bill[] = {
     {"Id", Key},
@@ -164,10 +166,10 @@ constexpr Table family[] = {
     {"ZHXX", account, "ID", account_indexes},
     {"ZHJYXX", journal, "ID", journal_indexes, "ID"},  // the next key is one more than the highest, as a number
     {"RPVouchers", voucher, "Id", by_type},
-    {"RPBItems", voucher_money, "", voucher_money_indexes},
-    {"RPBRPItems", settled_bill, "", settled_bill_indexes},
+    {"RPBItems", voucher_money, "", voucher_money_indexes, "", of_voucher},
+    {"RPBRPItems", settled_bill, "", settled_bill_indexes, "", of_voucher},
     {"AdvanceBill", voucher, "Id", by_type},
-    {"AdvanceItems", settled_bill, "", settled_bill_indexes},
+    {"AdvanceItems", settled_bill, "", settled_bill_indexes, "", of_voucher},
     {"PlansBill", plans_bill, "Id"},
     {"PlansBillItems", plans_bill_items, "", by_plan},
     {"WCPlansItems", plan_list, "", by_plan},

@@ -5,6 +5,7 @@
 #include <memory>
 #include <thread>
 
+#include "brunvik/ado/errors.h"
 #include "tests/support/closed_port.h"
 
 namespace brunvik::host {
@@ -141,6 +142,56 @@ TEST_F(HostServer, What_the_tables_lack_is_laid_and_nothing_is_taken_away) {
   EXPECT_EQ(brunvik({"schema", "--db", address}).out, "");
   EXPECT_EQ(told("select id,Gname,Shelf,AverageCost from goods"), R"([["G1","螺丝 𠮷","A7","0"]])");
   EXPECT_EQ(told("select count(*) as n from Notes"), "[[0]]");
+}
+
+TEST_F(HostServer, The_rows_of_a_voucher_lie_in_their_order_and_are_found_by_it) {
+  create();
+  {
+    const auto books = database.open();
+    books->Execute("insert into RPBRPItems(BID,RowNum,RPableBID) values('FKD24030500002',1,'JHR2')");
+    for (const char* row : {"2,'JHR3'", "1,'JHR1'", "2,'JHR2'"}) {
+      books->Execute("insert into RPBRPItems(BID,RowNum,RPableBID) values('FKD24030500001'," + std::string(row) + ")");
+    }
+  }
+  EXPECT_EQ(told("select * from RPBRPItems where bid='fkd24030500001'"),
+            R"([["FKD24030500001",1,"JHR1",null,"0",null],)"
+            R"(["FKD24030500001",2,"JHR3",null,"0",null],["FKD24030500001",2,"JHR2",null,"0",null]])");
+  for (const char* table : {"RPBItems", "RPBRPItems", "AdvanceItems"}) {
+    const Json plan = Json::parse(told("explain select * from " + std::string(table) + " where BID='FKD24030500001'"));
+    EXPECT_NE(plan.dump().find("\"PRIMARY\",\"762\",\"const\""), std::string::npos) << plan;
+  }
+}
+
+TEST_F(HostServer, A_row_of_a_voucher_without_its_number_has_none_and_a_null_is_refused) {
+  create();
+  const auto books = database.open();
+  books->Execute("insert into RPBItems(Amount) values(1.5)");
+  books->Execute("insert into RPBItems(Amount) values(1.5)");
+  EXPECT_EQ(told("select BID,RowNum,Amount from RPBItems"), R"([["",0,"1.5"],["",0,"1.5"]])");
+  for (const char* row : {"null,1", "'FKD24030500001',null"}) {
+    try {
+      books->Execute("insert into RPBItems(BID,RowNum) values(" + std::string(row) + ")");
+      ADD_FAILURE() << row;
+    } catch (const ado::RuntimeError& error) {
+      EXPECT_EQ(error.number(), ado::error::constraint_violated);
+      EXPECT_NE(error.description().find("cannot be null"), std::string::npos) << error.description();
+    }
+  }
+  EXPECT_EQ(told("select count(*) as n from RPBItems"), "[[2]]");
+}
+
+TEST_F(HostServer, Vouchers_whose_rows_were_laid_in_another_order_go_on_as_they_are) {
+  create();
+  const auto books = database.open();
+  books->Execute(
+      "alter table RPBRPItems modify BID varchar(190), modify RowNum smallint, drop primary key, modify RowKey bigint "
+      "unsigned not null auto_increment invisible primary key");
+  books->Execute("insert into RPBRPItems(BID,RowNum) values(null,null)");
+  const std::string index = "CREATE INDEX `RPBRPItems_BID_RowNum` ON `RPBRPItems` (`BID`, `RowNum`);\n";
+  EXPECT_EQ(brunvik({"schema", "--db", address}).out, index);
+  EXPECT_EQ(brunvik({"schema", "--db", address, "--apply"}).out, index);
+  EXPECT_EQ(brunvik({"schema", "--db", address, "--apply"}).out, "");
+  EXPECT_EQ(told("select BID,RowNum from RPBRPItems"), "[[null,null]]");
 }
 
 TEST_F(HostServer, A_server_that_can_t_be_reached_is_status_1_with_the_reason) {

@@ -54,16 +54,35 @@ std::string words(Engine engine, Type type) {
   return all.at(type).at(engine);
 }
 
+std::vector<std::string> columns_of(std::string_view index) {
+  std::vector<std::string> columns;
+  std::string names(index.substr(0, index.find(" where ")));
+  for (std::size_t comma = 0; (comma = names.find(", ")) != std::string::npos; names.erase(0, comma + 2)) {
+    columns.push_back(names.substr(0, comma));
+  }
+  columns.push_back(names);
+  return columns;
+}
+
+bool is_in_order_of(const Table& table, const Column& column) {
+  return std::ranges::any_of(columns_of(table.order), [&](const std::string& name) { return name == column.name; });
+}
+
 std::string definition(Engine engine, const Table& table, const Column& column) {
   const bool is_key = column.name == table.key;
   std::string text = quoted(engine, column.name) + " " + words(engine, column.type);
   if (is_key) text += " NOT NULL PRIMARY KEY";
   if (!is_key && engine == Engine::sqlserver) text += " NULL";
   if (!column.initial.empty()) text += " DEFAULT " + std::string(column.initial);
+  if (engine == Engine::mariadb && is_in_order_of(table, column)) {
+    text.append(" NOT NULL DEFAULT ").append(column.type == Type::Key ? "''" : "0");
+  }
   return text;
 }
 
 constexpr std::string_view row_key = "`RowKey` BIGINT UNSIGNED NOT NULL AUTO_INCREMENT INVISIBLE PRIMARY KEY";
+constexpr std::string_view row_key_of_ordered_rows =
+    "`RowKey` BIGINT UNSIGNED NOT NULL DEFAULT (UUID_SHORT()) INVISIBLE";
 constexpr std::string_view number_of_id =
     "`NumberOfID` INT GENERATED ALWAYS AS (CASE WHEN CHAR_LENGTH(`ID`) BETWEEN 1 AND 9 AND `ID` NOT REGEXP '[^0-9]' "
     "THEN CAST(`ID` AS SIGNED) END) PERSISTENT INVISIBLE";
@@ -76,19 +95,10 @@ std::string creation(Engine engine, const Table& table) {
     text += (text.ends_with('(') ? "\n  " : ",\n  ") + definition(engine, table, column);
   }
   if (engine != Engine::mariadb) return text + "\n)";
-  if (table.key.empty()) text.append(",\n  ").append(row_key);
+  if (table.key.empty()) text.append(",\n  ").append(table.order.empty() ? row_key : row_key_of_ordered_rows);
   if (table.name == "ZHJYXX") text.append(",\n  ").append(number_of_id);
+  if (!table.order.empty()) text.append(",\n  PRIMARY KEY (`BID`, `RowNum`, `RowKey`)");
   return text.append("\n)").append(mariadb_end);
-}
-
-std::vector<std::string> columns_of(std::string_view index) {
-  std::vector<std::string> columns;
-  std::string names(index.substr(0, index.find(" where ")));
-  for (std::size_t comma = 0; (comma = names.find(", ")) != std::string::npos; names.erase(0, comma + 2)) {
-    columns.push_back(names.substr(0, comma));
-  }
-  columns.push_back(names);
-  return columns;
 }
 
 std::string index_creation(Engine engine, std::string_view table, std::string_view index) {
@@ -143,7 +153,10 @@ TEST(SchemaEngines, Every_table_has_its_columns_in_their_order_and_then_its_inde
     std::vector<std::string> expected;
     for (const Table& table : tables()) {
       expected.push_back(creation(engine, table));
-      for (const std::string_view index : table.indexes) expected.push_back(index_creation(engine, table.name, index));
+      for (const std::string_view index : table.indexes) {
+        if (engine == Engine::mariadb && index == table.order) continue;
+        expected.push_back(index_creation(engine, table.name, index));
+      }
       if (engine == Engine::mariadb && table.name == "ZHJYXX") {
         expected.emplace_back("CREATE INDEX `ZHJYXX_NumberOfID` ON `ZHJYXX` (`NumberOfID`)");
       }
@@ -164,6 +177,39 @@ TEST(SchemaEngines, A_goods_unit_is_written_so) {
                               "COLLATE=utf8mb4_uca1400_as_ci"),
             all.end());
   EXPECT_NE(std::ranges::find(all, "CREATE INDEX `GoodsUnit_id_Unit` ON `GoodsUnit` (`id`, `Unit`)"), all.end());
+}
+
+TEST(SchemaEngines, What_a_voucher_settles_is_kept_in_the_order_of_the_vouchers_on_mariadb) {
+  std::vector<std::string> settled = statements(Engine::mariadb);
+  std::erase_if(settled, [](const std::string& text) { return text.find("`RPBRPItems`") == std::string::npos; });
+  EXPECT_EQ(settled, (std::vector<std::string>{
+                         "CREATE TABLE `RPBRPItems` (\n"
+                         "  `BID` VARCHAR(190) NOT NULL DEFAULT '',\n"
+                         "  `RowNum` SMALLINT NOT NULL DEFAULT 0,\n"
+                         "  `RPableBID` VARCHAR(190),\n"
+                         "  `RPableBType` TINYINT UNSIGNED,\n"
+                         "  `Amount` DECIMAL(19,4) DEFAULT 0,\n"
+                         "  `Remarks` LONGTEXT,\n"
+                         "  `RowKey` BIGINT UNSIGNED NOT NULL DEFAULT (UUID_SHORT()) INVISIBLE,\n"
+                         "  PRIMARY KEY (`BID`, `RowNum`, `RowKey`)\n"
+                         ") ENGINE=InnoDB ROW_FORMAT=DYNAMIC DEFAULT CHARACTER SET=utf8mb4 "
+                         "COLLATE=utf8mb4_uca1400_as_ci",
+                         "CREATE INDEX `RPBRPItems_RPableBID` ON `RPBRPItems` (`RPableBID`)",
+                     }));
+}
+
+TEST(SchemaEngines, Rows_of_vouchers_alone_have_an_order_which_is_one_of_their_indexes) {
+  std::string names;
+  for (const Table& table : tables()) {
+    if (table.order.empty()) continue;
+    names.append(table.name).append(" ");
+    EXPECT_EQ(table.key, "") << table.name;
+    EXPECT_NE(std::ranges::find(table.indexes, table.order), table.indexes.end()) << table.name;
+    for (const Column& column : table.columns) {
+      EXPECT_TRUE(!is_in_order_of(table, column) || column.initial.empty()) << table.name << "." << column.name;
+    }
+  }
+  EXPECT_EQ(names, "RPBItems RPBRPItems AdvanceItems ");
 }
 
 TEST(SchemaEngines, The_highest_number_of_the_journal_is_asked_for_alone) {
@@ -247,6 +293,8 @@ std::vector<LaidTable> all_on_mariadb() {
     for (const Column& column : table.columns) laid.columns.emplace_back(column.name);
     if (table.key.empty()) laid.columns.emplace_back("RowKey");
     if (!table.numbered.empty()) laid.columns.emplace_back("NumberOfID");
+    laid.key = columns_of(table.order.empty() ? table.key : table.order);
+    if (table.key.empty()) laid.key.emplace_back("RowKey");
     for (const std::string& statement : statements(Engine::mariadb)) {
       const std::string end = "` ON `" + laid.name + "` (";
       const std::size_t place = statement.find(end);
@@ -297,6 +345,25 @@ TEST(SchemaEngines, A_table_on_mariadb_gets_a_primary_key_where_it_has_none) {
   std::erase(rows.indexes, "PRIMARY");
   EXPECT_EQ(lacking_statements(Engine::mariadb, all),
             std::vector<std::string>{"ALTER TABLE `StockBillItems` ADD COLUMN " + std::string(row_key)});
+}
+
+TEST(SchemaEngines, A_table_on_mariadb_whose_rows_are_in_another_order_has_or_gets_the_index_that_leads_to_them) {
+  std::vector<LaidTable> all = all_on_mariadb();
+  LaidTable& rows = table_of(all, "RPBRPItems");
+  rows.key = {"RowKey"};
+  rows.indexes.emplace_back("RPBRPItems_BID_RowNum");
+  EXPECT_EQ(lacking_statements(Engine::mariadb, all), std::vector<std::string>{}) << "It was laid so once.";
+  rows.indexes.pop_back();
+  const std::string index = "CREATE INDEX `RPBRPItems_BID_RowNum` ON `RPBRPItems` (`BID`, `RowNum`)";
+  EXPECT_EQ(lacking_statements(Engine::mariadb, all), std::vector<std::string>{index});
+  rows.key = {"BID"};
+  EXPECT_EQ(lacking_statements(Engine::mariadb, all), std::vector<std::string>{index});
+  rows.key = {"bid", "rownum"};
+  EXPECT_EQ(lacking_statements(Engine::mariadb, all), std::vector<std::string>{}) << "A host's own key.";
+  rows = {"RPBRPItems", {"BID", "RPableBID", "RPableBType", "Amount", "Remarks"}, {"RPBRPItems_RPableBID"}};
+  EXPECT_EQ(lacking_statements(Engine::mariadb, all),
+            (std::vector<std::string>{"ALTER TABLE `RPBRPItems` ADD COLUMN `RowNum` SMALLINT",
+                                      "ALTER TABLE `RPBRPItems` ADD COLUMN " + std::string(row_key), index}));
 }
 
 TEST(SchemaEngines, Rows_that_are_there_get_the_initial_value_of_a_lacking_column_on_every_engine) {
