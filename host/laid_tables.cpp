@@ -46,14 +46,13 @@ constexpr std::string_view columns_of_mariadb_keys =
     "select table_name as t, column_name as name from information_schema.statistics where table_schema=database() and "
     "index_name='PRIMARY' order by table_name, seq_in_index";
 
-// Hands each name to the table that it belongs to.
-template <class Take>
-void take_names(Laid& tables, ado::Recordset names, Take&& take) {
+// Puts each name into a list of the table that it belongs to.
+void put_names(Laid& tables, ado::Recordset names, std::vector<std::string> schema::LaidTable::*list) {
   for (; !names.at_end(); names.MoveNext()) {
     const std::string name = names.value("t").as_text();
     const auto table =
         std::find_if(tables.begin(), tables.end(), [&name](const auto& laid) { return laid.name == name; });
-    if (table != tables.end()) take(*table).push_back(names.value("name").as_text());
+    if (table != tables.end()) ((*table).*list).push_back(names.value("name").as_text());
   }
 }
 
@@ -65,11 +64,9 @@ Laid laid_on_a_server(ado::Connection& database, schema::Engine engine) {
     if (tables.empty() || tables.back().name != name) tables.push_back({name, {}, {}});
     tables.back().columns.push_back(columns.value("name").as_text());
   }
-  take_names(
-      tables, database.Execute(names_of_indexes(engine)), [](auto& table) -> auto& { return table.indexes; });
+  put_names(tables, database.Execute(names_of_indexes(engine)), &schema::LaidTable::indexes);
   if (engine == schema::Engine::mariadb) {
-    take_names(
-        tables, database.Execute(columns_of_mariadb_keys), [](auto& table) -> auto& { return table.key; });
+    put_names(tables, database.Execute(columns_of_mariadb_keys), &schema::LaidTable::key);
   }
   return tables;
 }
