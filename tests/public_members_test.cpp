@@ -78,34 +78,33 @@ std::string described(const PublicObject& object) {
   return text;
 }
 
-TEST(PublicMembers, Of_every_class_stand_in_their_order_with_their_types) {
-  auto expected = expected_classes();
-  for (const automation::Class& each : automation::classes()) {
+// Each of them has what is written down under its name, and nothing is written down of another. `describe` makes an
+// object of one and describes it.
+template <class Range, class Describe>
+void expect_as_written_down(const Range& all, std::map<std::string, std::string> expected, Describe&& describe) {
+  for (const auto& each : all) {
     const std::string name(each.name);
     if (!expected.contains(name)) {
-      ADD_FAILURE() << name << " has no members written down: they belong into its family's file in "
+      ADD_FAILURE() << name << " has nothing written down: its members belong into its family's file in "
                     << "tests/support/public_members";
       continue;
     }
-    EXPECT_EQ(described(*each.create()), spread(expected[name])) << name;
+    EXPECT_EQ(describe(each), spread(expected[name])) << name;
     expected.erase(name);
   }
-  for (const auto& [name, members] : expected) ADD_FAILURE() << name << " has members written down and is no class";
+  for (const auto& [name, members] : expected) ADD_FAILURE() << name << " has members written down and isn't there";
+}
+
+TEST(PublicMembers, Of_every_class_stand_in_their_order_with_their_types) {
+  expect_as_written_down(automation::classes(), expected_classes(),
+                         [](const automation::Class& each) { return described(*each.create()); });
 }
 
 TEST(PublicMembers, Of_every_record_stand_in_their_order_with_their_types) {
-  auto expected = expected_records();
-  for (const automation::RecordClass& each : automation::record_classes()) {
-    const std::string name(each.name);
-    if (!expected.contains(name)) {
-      ADD_FAILURE() << name << " has no fields written down: they belong into its family's file in "
-                    << "tests/support/public_members";
-      continue;
-    }
-    EXPECT_EQ(described(automation::create_rows(name)->add()), spread(expected[name])) << name;
-    expected.erase(name);
-  }
-  for (const auto& [name, fields] : expected) ADD_FAILURE() << name << " has fields written down and is no record";
+  expect_as_written_down(automation::record_classes(), expected_records(), [](const automation::RecordClass& each) {
+    const auto rows = automation::create_rows(each.name);
+    return described(rows->add());
+  });
 }
 
 // A value of the type that no property starts with.

@@ -1,6 +1,8 @@
 // What SQLite alone makes of a statement, or makes of it in its own way: where the engine works with other numbers and
 // other texts than a server does.
 #include <random>
+#include <string>
+#include <vector>
 
 #include "brunvik/ado/money.h"
 #include "tests/sqlite_books.h"
@@ -11,7 +13,18 @@ namespace {
 
 using test::literal_of;
 
-class SqliteOwnMeanings : public SqliteBooks {};
+class SqliteOwnMeanings : public SqliteBooks {
+ protected:
+  // The keys in the order of the engine.
+  std::vector<std::string> in_order(const std::vector<std::string>& keys) {
+    for (const std::string& key : keys) run("insert into Warehouse(Id) values(" + literal_of(key) + ")");
+    std::vector<std::string> ordered;
+    for (auto set = run("select Id from Warehouse order by Id"); !set.at_end(); set.MoveNext()) {
+      ordered.push_back(set.value("Id").as_text());
+    }
+    return ordered;
+  }
+};
 
 // A server knows no row limit there.
 TEST_F(SqliteOwnMeanings, Top_stands_in_a_list_too) {
@@ -61,27 +74,12 @@ TEST_F(SqliteOwnMeanings, Trailing_blanks_of_a_key_are_cut_when_it_is_worked_out
 }
 
 TEST_F(SqliteOwnMeanings, Full_and_half_width_are_two_keys) {
-  const char* const ordered[] = {"a", "B", "主", "ａ", "Ｂ"};
-  for (const char* id : {"Ｂ", "主", "a", "B", "ａ"}) {
-    run(std::string("insert into StockBill(Id) values('") + id + "')");
-  }
-  auto set = run("select Id from StockBill order by Id");
-  for (const char* id : ordered) {
-    EXPECT_EQ(set.value("Id").as_text(), id);
-    set.MoveNext();
-  }
+  EXPECT_EQ(in_order({"Ｂ", "主", "a", "B", "ａ"}), (std::vector<std::string>{"a", "B", "主", "ａ", "Ｂ"}));
 }
 
 TEST_F(SqliteOwnMeanings, Signs_stand_among_the_letters_as_their_bytes_do_in_small_letters) {
-  const char* const ordered[] = {"100%", "[x]", "a_b", "AB", "AB C", "axb", "c\\d"};
-  for (const char* id : {"AB C", "axb", "[x]", "AB", "c\\d", "a_b", "100%"}) {
-    run(std::string("insert into Warehouse(Id) values('") + id + "')");
-  }
-  auto set = run("select Id from Warehouse order by Id");
-  for (const char* id : ordered) {
-    EXPECT_EQ(set.value("Id").as_text(), id);
-    set.MoveNext();
-  }
+  EXPECT_EQ(in_order({"AB C", "axb", "[x]", "AB", "c\\d", "a_b", "100%"}),
+            (std::vector<std::string>{"100%", "[x]", "a_b", "AB", "AB C", "axb", "c\\d"}));
 }
 
 // A text has no encoding here, and no length.
