@@ -19,11 +19,11 @@ struct OwnMembers {
 
 // What the documents have of it that name a receiving manager.
 template <class C>
-OwnMembers receiving_members(MemberGroup behind_number = {}) {
+OwnMembers receiving_members(const MemberGroup& behind_number = {}) {
   return {.person = property<&C::RManager>("RManager", "RManager"),
           .money = {property<&C::Paidamount>("Paidamount"), property<&C::BillCost>("BillCost", "BillCost")},
           .behind_saving = {verb<&C::GetBill>("GetBill")},
-          .behind_number = std::move(behind_number),
+          .behind_number = behind_number,
           .audit = {verb<&C::Audit>("Audit"), verb<&C::UndoAudit>("UndoAudit")}};
 }
 

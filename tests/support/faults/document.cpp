@@ -24,12 +24,13 @@ void RehearsedDocument::lay_bills(const std::string& insert, const std::string& 
 void RehearsedDocument::lay_bills(const std::string& insert, const std::string& values,
                                   const std::string& values_of_the_second) {
   for (int place = 1; place <= 3; ++place) {
-    books.push_back(insert + quoted(number(place)) + (place == 2 ? values_of_the_second : values));
+    books.emplace_back(insert).append(quoted(number(place))).append(place == 2 ? values_of_the_second : values);
   }
 }
 
 void RehearsedDocument::lay_rows(const std::string& insert, const std::vector<std::string>& rows) {
-  for (const std::string& row : rows) books.push_back(insert + quoted(bill()) + row);
+  const std::string begin = insert + quoted(bill());
+  for (const std::string& row : rows) books.push_back(begin + row);
 }
 
 Rehearsed::Rehearsed(Make document) { collected().push_back(document); }
