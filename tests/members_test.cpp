@@ -187,19 +187,6 @@ TEST(Members, A_field_is_read_as_the_type_of_the_property) {
   EXPECT_EQ(error_number([&] { member("Amount").read(object, "many"); }), 13);
 }
 
-TEST(Members, A_field_that_is_read_stays_and_one_that_is_taken_gives_its_text_away) {
-  const std::string words = "一个比字符串自己的地方更长的文本";
-  Sample object;
-  Value field = words;
-  member("ID").read(object, field);
-  EXPECT_EQ(object.ID, words);
-  EXPECT_EQ(field, Value(words));
-  member("ID").put(object, "old");
-  member("ID").take(object, field);
-  EXPECT_EQ(object.ID, words);
-  EXPECT_EQ(field, Value(""));
-}
-
 TEST(Members, A_row_number_of_32_bits_is_read_as_far_as_it_fits) {
   Sample object;
   member("Rownum").read(object, Long{32'767});

@@ -102,7 +102,7 @@ Long Bill::propose_number(std::string& BID, std::string_view prefix) noexcept {
 
 void Bill::read_properties(ado::Recordset set) {
   if (set.at_end()) return;
-  MemberColumns::for_each(members(), set, [&](const Member& member, Value& field) { member.take(*this, field); });
+  MemberColumns::take(members(), *this, set);
 }
 
 std::string Bill::aggregated_id(const ado::Recordset& set) { return aggregated_number(set, "Id"); }

@@ -18,13 +18,12 @@ template <class Row, class Finish>
 void read_rows(RowCollection& rows, ado::Recordset set, const RowMembers& members, Finish&& finish) {
   rows.clear();
   if (set.at_end()) return;
-  const MemberColumns::Fields fields = MemberColumns::fields_of(members, set);
+  const auto fields = MemberColumns::fields_of(members, set);
   rows.reserve(set.record_count());
   for (; !set.at_end(); set.MoveNext()) {
     auto& row = static_cast<Row&>(rows.add());
     try {
-      const std::span<Value> record = set.record();
-      for (const auto& [member, place] : *fields) member->take(row, record[place]);
+      fields->take(row, set.record());
       finish(row, set);
     } catch (...) {
       // A row counts when all of it is read: a voucher must not settle the row whose bill it could not look at.

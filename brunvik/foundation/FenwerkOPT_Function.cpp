@@ -16,9 +16,7 @@ Long GetGoodsById(std::string_view Id, GoodsRecord& Goods) {
     Open_Recordset(set);
     set.Open(sql("select * from goods where id={}", Id));
     if (set.at_end()) return;
-    MemberColumns::for_each(Goods.members(), set, [&](const Member& member, Value& field) {
-      if (!field.is_null() || member.type() == Type::Text) member.take(Goods, field);
-    });
+    MemberColumns::take(Goods.members(), Goods, set, MemberColumns::Null::leaves_numbers);
   });
 }
 

@@ -1,4 +1,4 @@
-// Where the members of a class stand in a set.
+// Where the members of a class stand in a set, and how a record fills them.
 //
 // A connection makes the names of a statement's columns once for all sets that it selects, so the places of the columns
 // are kept with the names that they were found in. A goods record has 28 columns and is read for each row that moves:
@@ -8,9 +8,9 @@
 #include <cstddef>
 #include <memory>
 #include <span>
+#include <variant>
 #include <vector>
 
-#include "brunvik/ado/errors.h"
 #include "brunvik/ado/recordset.h"
 #include "brunvik/foundation/members.h"
 
@@ -18,35 +18,47 @@ namespace brunvik {
 
 class MemberColumns {
  public:
-  struct Field {
-    const Member* member;
-    std::size_t place;
+  // What a null in a column leaves in the property: nothing (the empty text, 0, false), or what it held, texts apart.
+  enum class Null { is_nothing, leaves_numbers };
+
+  // The properties of an object and the columns of a set, in the order in which they are filled.
+  class Fields {
+   public:
+    // Fills the object from a record of the set, whose texts are taken out of it. Most columns hold just what their
+    // property is; any other value is converted, with the errors of Member::read, and what stands behind it is as it
+    // was then. Error 3265 at a member whose column the set doesn't have.
+    void take(PublicObject& object, std::span<Value> record, Null null = Null::is_nothing) const;
+
+   private:
+    friend class MemberColumns;
+
+    // A run of properties of one type, so that the type is asked for once.
+    template <class Stored>
+    struct Field {
+      Stored PublicObject::*property;
+      std::size_t column;
+      const Member* member;
+    };
+    template <class Stored>
+    using Run = std::vector<Field<Stored>>;
+    struct NoColumn {};
+    using AnyRun = std::variant<NoColumn, Run<std::string>, Run<Byte>, Run<Integer>, Run<Long>, Run<Single>,
+                                Run<Double>, Run<Money>, Run<bool>, Run<Value>, Run<ado::ConnectionReference>>;
+    std::vector<AnyRun> runs_;
+
+    void add(const Member& member, std::size_t column, std::size_t column_count);
   };
 
-  // Calls `read(member, value)` for each member of the table that is read from a column, in their order; the values of
-  // the caller's own set are its to take. Error 3021 where there is no record; 3265 at the first member whose column
-  // the set doesn't have.
-  template <class Set, class Read>
-  static void for_each(const Members& table, Set& set, Read&& read) {
-    const std::vector<Field>& fields = fields_of(table, set);
-    const auto record = set.record();
-    for (const auto& [member, place] : fields) {
-      if (place == record.size()) ado::raise(ado::error::no_such_field);
-      read(*member, record[place]);
-    }
-  }
+  // Fills the object, of the table's class, from the set's current record. Error 3021 where there is none.
+  static void take(const Members& table, PublicObject& object, ado::Recordset& set, Null null = Null::is_nothing);
 
-  // The places of these members, in their order; error 3265 at the first whose column the set doesn't have.
-  using Fields = std::shared_ptr<const std::vector<Field>>;
-  static Fields fields_of(std::span<const Member* const> members, const ado::Recordset& set);
+  // These members' fields, in their order; error 3265 at the first whose column the set doesn't have.
+  static std::shared_ptr<const Fields> fields_of(std::span<const Member* const> members, const ado::Recordset& set);
 
  private:
-  // Good until the next call on this thread. A column that the set doesn't have stands behind its last one.
-  static const std::vector<Field>& fields_of(const Members& table, const ado::Recordset& set);
-
   std::shared_ptr<const ado::ColumnNames> names_;
   const Members* table_ = nullptr;
-  std::vector<Field> fields_;
+  Fields fields_;
 };
 
 }  // namespace brunvik

@@ -12,57 +12,6 @@ namespace brunvik {
 
 namespace {
 
-// Hands the stored property to the visitor as what it is.
-template <class Visitor>
-void visit_stored(Type type, void* place, Visitor&& visitor) {
-  switch (type) {
-    case Type::Text:
-      return visitor(*static_cast<std::string*>(place));
-    case Type::Byte:
-      return visitor(*static_cast<Byte*>(place));
-    case Type::Integer:
-      return visitor(*static_cast<Integer*>(place));
-    case Type::Long:
-      return visitor(*static_cast<Long*>(place));
-    case Type::Single:
-      return visitor(*static_cast<Single*>(place));
-    case Type::Double:
-      return visitor(*static_cast<Double*>(place));
-    case Type::Money:
-      return visitor(*static_cast<Money*>(place));
-    case Type::Boolean:
-      return visitor(*static_cast<bool*>(place));
-    case Type::Variant:
-      return visitor(*static_cast<Value*>(place));
-    default:
-      ado::raise(ado::error::type_mismatch);
-  }
-}
-
-void assign(std::string& property, const Value& value) {
-  if (const auto* text = value.get_if<std::string>()) {
-    property = *text;
-  } else {
-    property = value.as_text();
-  }
-}
-void assign(Byte& property, const Value& value) { property = value.as_byte(); }
-void assign(Integer& property, const Value& value) { property = value.as_integer(); }
-void assign(Long& property, const Value& value) { property = value.as_long(); }
-void assign(Single& property, const Value& value) { property = value.as_single(); }
-void assign(Double& property, const Value& value) { property = value.as_double(); }
-void assign(Money& property, const Value& value) { property = value.as_money(); }
-void assign(bool& property, const Value& value) { property = value.as_boolean(); }
-void assign(Value& property, const Value& value) { property = value; }
-
-ado::ConnectionReference connection_in(const Value& value) {
-  if (value.is_empty() || value.is_null()) return nullptr;
-  const auto* object = value.get_if<ado::ObjectReference>();
-  auto connection = object ? std::dynamic_pointer_cast<ado::Connection>(*object) : nullptr;
-  if (!connection && !(object && !*object)) ado::raise(ado::error::type_mismatch);
-  return connection;
-}
-
 std::size_t next_number() noexcept {
   static std::atomic<std::size_t> tables{0};
   return tables++;
@@ -118,15 +67,22 @@ std::string_view name_of(MemberKind kind) noexcept {
   return {};
 }
 
-Member Member::stored(std::string_view name, std::string_view column, MemberKind kind, Type type, Place place,
-                      TakeOwn take_own, Write write) {
+Member Member::stored(std::string_view name, std::string_view column, Type type, PropertyPlace place, Write write) {
   Member member;
   member.name_ = name;
-  member.kind_ = kind;
   member.type_ = type;
   member.written_column_ = member.read_column_ = column;
   member.place_ = place;
-  member.take_own_ = take_own;
+  member.write_ = write;
+  return member;
+}
+
+Member Member::collection(std::string_view name, Rows rows, Write write) {
+  Member member;
+  member.name_ = name;
+  member.kind_ = MemberKind::collection;
+  member.type_ = Type::Rows;
+  member.rows_ = rows;
   member.write_ = write;
   return member;
 }
@@ -168,10 +124,6 @@ Member Member::not_read() && {
   return std::move(*this);
 }
 
-bool Member::is_kept_at(const PublicObject& object, const void* place) const {
-  return place_ && place_(const_cast<PublicObject&>(object)) == place;
-}
-
 Member Member::read_only() && {
   kind_ = MemberKind::read_only_property;
   return std::move(*this);
@@ -181,51 +133,33 @@ void detail::write(StatementWriter& statement, Double number) { SqlValue(number)
 void detail::write(StatementWriter& statement, const Value& value) { SqlValue(value).write_to(statement); }
 void detail::raise_unwritable() { ado::raise(ado::error::type_mismatch); }
 
-void detail::take_words(std::string& property, std::string& words) noexcept { property = std::move(words); }
-
-void Member::read_converted(PublicObject& object, const Value& field) const {
+void Member::read(PublicObject& object, const Value& field) const {
   if (field.is_null() && required_) ado::raise(ado::error::invalid_use_of_null);
-  visit_stored(type_, place_(object), [&](auto& property) {
-    if (field.is_null()) {
-      property = {};
-    } else {
-      assign(property, field);
-    }
-  });
+  place_.read(object, field);
 }
 
 Value Member::get(const PublicObject& object) const {
   if (compute_) return compute_(object);
-  if (!place_) ado::raise(ado::error::no_such_member);
-  void* place = place_(const_cast<PublicObject&>(object));
-  if (type_ == Type::Connection) return ado::ObjectReference(*static_cast<ado::ConnectionReference*>(place));
-  if (type_ == Type::Rows) {
-    // The collection stays the bill's: the reference lives no longer than the bill.
-    return ado::ObjectReference(ado::ObjectReference(), static_cast<RowCollection*>(place));
-  }
-  Value value;
-  visit_stored(type_, place, [&](const auto& property) { value = property; });
-  return value;
+  // The collection stays the bill's: the reference lives no longer than the bill.
+  if (rows_) return ado::ObjectReference(ado::ObjectReference(), &rows_(const_cast<PublicObject&>(object)));
+  if (place_.is_nowhere()) ado::raise(ado::error::no_such_member);
+  return place_.get(object);
 }
 
 void Member::put(PublicObject& object, const Value& value) const {
-  if (!place_ || kind_ == MemberKind::read_only_property) ado::raise(ado::error::no_such_member);
-  void* place = place_(object);
-  if (type_ == Type::Connection) {
-    *static_cast<ado::ConnectionReference*>(place) = connection_in(value);
-  } else if (type_ == Type::Rows) {
+  if (rows_) {
     const auto* reference = value.get_if<ado::ObjectReference>();
     const auto* rows = reference ? dynamic_cast<const RowCollection*>(reference->get()) : nullptr;
     if (!rows) ado::raise(ado::error::type_mismatch);
-    static_cast<RowCollection*>(place)->assign(*rows);
-  } else {
-    visit_stored(type_, place, [&](auto& property) { assign(property, value); });
+    return rows_(object).assign(*rows);
   }
+  if (place_.is_nowhere() || kind_ == MemberKind::read_only_property) ado::raise(ado::error::no_such_member);
+  place_.put(object, value);
 }
 
 RowCollection& Member::rows(PublicObject& object) const {
-  if (type_ != Type::Rows) ado::raise(ado::error::no_such_member);
-  return *static_cast<RowCollection*>(place_(object));
+  if (!rows_) ado::raise(ado::error::no_such_member);
+  return rows_(object);
 }
 
 Value Member::call(PublicObject& object, std::vector<Value>& arguments) const {
@@ -267,9 +201,9 @@ const Member& Members::written_to(std::string_view column) const {
   throw ado::RuntimeError(ado::error::no_such_field, "no property is written to column " + std::string(column));
 }
 
-const Member& Members::kept_at(const PublicObject& object, const void* place) const {
+const Member& Members::kept_at(const PublicObject& object, const void* address) const {
   for (const Member& member : members_) {
-    if (member.is_kept_at(object, place)) return member;
+    if (member.place().is_at(object, address)) return member;
   }
   ado::raise(ado::error::no_such_member);
 }

@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "brunvik/ado/connection.h"
+#include "brunvik/foundation/property_place.h"
 #include "brunvik/foundation/public_object.h"
 #include "brunvik/foundation/statement_writer.h"
 
@@ -83,17 +84,14 @@ inline Parameter optional(Parameter parameter, Value default_value) {
 
 class Member {
  public:
-  // A stored property is reached through its place in the object, any other member through a function.
-  using Place = void* (*)(PublicObject&);
-  // Takes a value of the very type that the property has, a text away from where it is; false for any other value.
-  using TakeOwn = bool (*)(PublicObject&, Value&);
+  using Rows = RowCollection& (*)(PublicObject&);
   // Writes the property's value into a statement.
   using Write = void (*)(StatementWriter&, const PublicObject&);
   using Compute = Value (*)(const PublicObject&);
   using Call = Value (*)(PublicObject&, std::span<Value>);
 
-  static Member stored(std::string_view name, std::string_view column, MemberKind kind, Type type, Place place,
-                       TakeOwn take_own, Write write);
+  static Member stored(std::string_view name, std::string_view column, Type type, PropertyPlace place, Write write);
+  static Member collection(std::string_view name, Rows rows, Write write);
   static Member computed(std::string_view name, std::string_view column, Type type, Compute compute, Write write);
   static Member callable(std::string_view name, Type result, std::vector<Parameter> parameters, Call call);
 
@@ -114,8 +112,8 @@ class Member {
   Type type() const noexcept { return type_; }
   const std::vector<Parameter>& parameters() const noexcept { return parameters_; }
 
-  // Whether the property is kept at this place of the object.
-  bool is_kept_at(const PublicObject& object, const void* place) const;
+  // Where it is in the objects of its class; nowhere, where it isn't a stored property.
+  const PropertyPlace& place() const noexcept { return place_; }
 
   // The column that the property is kept in, empty where there is none.
   std::string_view written_column() const noexcept { return written_column_; }
@@ -124,13 +122,8 @@ class Member {
   // The value as GetSqlVal writes it.
   void write_to(StatementWriter& statement, const PublicObject& object) const { write_(statement, object); }
 
-  // Takes the value of the column in a record. Nearly all columns hold just what their property is.
-  void read(PublicObject& object, Value field) const { take(object, field); }
-
-  // The same from a record that nobody reads behind this: of a text nothing is left there.
-  void take(PublicObject& object, Value& field) const {
-    if (!take_own_(object, field)) read_converted(object, field);
-  }
+  // Takes the value of the column in a record.
+  void read(PublicObject& object, const Value& field) const;
 
   // Late binding. A value of the wrong type is error 13, a read-only property or a verb put is error 438.
   Value get(const PublicObject& object) const;
@@ -149,13 +142,11 @@ class Member {
   std::string_view written_column_;
   std::string_view read_column_;
   std::vector<Parameter> parameters_;
-  Place place_ = nullptr;
-  TakeOwn take_own_ = nullptr;
+  PropertyPlace place_;
+  Rows rows_ = nullptr;
   Write write_ = nullptr;
   Compute compute_ = nullptr;
   Call call_ = nullptr;
-
-  void read_converted(PublicObject& object, const Value& field) const;
 };
 
 // Completes a list of arguments by those that may be left out; error 450 where the count is wrong.
@@ -194,9 +185,9 @@ class Members {
   // The property that a column is written from; error 3265 where there is none.
   const Member& written_to(std::string_view column) const;
 
-  // The stored property that is kept at this place of the object, which is of the table's class; error 438 where there
-  // is none.
-  const Member& kept_at(const PublicObject& object, const void* place) const;
+  // The stored property that is kept at this address in the object, which is of the table's class; error 438 where
+  // there is none.
+  const Member& kept_at(const PublicObject& object, const void* address) const;
 
   // Which of the process's tables it is; a copy has the same number.
   std::size_t number() const noexcept { return number_; }
@@ -238,52 +229,6 @@ struct MemberPointer<Content Owner::*> {
   using Class = Owner;
 };
 
-template <auto pointer>
-void* place_of(PublicObject& object) {
-  return &(static_cast<typename MemberPointer<decltype(pointer)>::Class&>(object).*pointer);
-}
-
-void take_words(std::string& property, std::string& words) noexcept;
-
-// Half of a row's texts are empty, and so are the properties of a row that is filled for the first time.
-inline void take_text(std::string& property, std::string& text) noexcept {
-  if (text.empty()) return property.clear();
-  take_words(property, text);
-}
-
-// The types of the columns in the books.
-template <class Stored>
-constexpr bool is_read_as_it_is =
-    std::is_same_v<Stored, std::string> || std::is_same_v<Stored, Money> || std::is_same_v<Stored, bool> ||
-    std::is_same_v<Stored, Byte> || std::is_same_v<Stored, Integer> || std::is_same_v<Stored, Long> ||
-    std::is_same_v<Stored, Single> || std::is_same_v<Stored, Double>;
-
-template <auto pointer>
-bool take_own(PublicObject& object, Value& field) {
-  using Pointer = MemberPointer<decltype(pointer)>;
-  using Stored = typename Pointer::Type;
-  if constexpr (is_read_as_it_is<Stored>) {
-    auto& property = static_cast<typename Pointer::Class&>(object).*pointer;
-    if (auto* const own = field.get_if<Stored>()) {
-      if constexpr (std::is_same_v<Stored, std::string>) {
-        take_text(property, *own);
-      } else {
-        property = *own;
-      }
-      return true;
-    }
-    // Some tables number their rows in 32 bits.
-    if constexpr (std::is_same_v<Stored, Integer>) {
-      const auto* const number = field.get_if<Long>();
-      if (number && std::in_range<Integer>(*number)) {
-        property = static_cast<Integer>(*number);
-        return true;
-      }
-    }
-  }
-  return false;
-}
-
 void write(StatementWriter& statement, Double number);
 void write(StatementWriter& statement, const Value& value);
 [[noreturn]] void raise_unwritable();
@@ -309,9 +254,8 @@ void write_own(StatementWriter& statement, const PublicObject& object) {
 }
 
 template <auto pointer>
-void* rows_of(PublicObject& object) {
-  auto& rows = static_cast<typename MemberPointer<decltype(pointer)>::Class&>(object).*pointer;
-  return static_cast<RowCollection*>(&rows);
+RowCollection& rows_of(PublicObject& object) {
+  return static_cast<typename MemberPointer<decltype(pointer)>::Class&>(object).*pointer;
 }
 
 }  // namespace detail
@@ -320,8 +264,7 @@ void* rows_of(PublicObject& object) {
 template <auto pointer>
 Member property(std::string_view name, std::string_view column = {}) {
   using Stored = typename detail::MemberPointer<decltype(pointer)>::Type;
-  return Member::stored(name, column, MemberKind::property, type_of<Stored>(), detail::place_of<pointer>,
-                        detail::take_own<pointer>, detail::write_own<pointer>);
+  return Member::stored(name, column, type_of<Stored>(), PropertyPlace(pointer), detail::write_own<pointer>);
 }
 
 template <auto pointer>
@@ -331,8 +274,7 @@ Member connection(std::string_view name) {
 
 template <auto pointer>
 Member collection(std::string_view name) {
-  return Member::stored(name, {}, MemberKind::collection, Type::Rows, detail::rows_of<pointer>, nullptr,
-                        detail::write_own<pointer>);
+  return Member::collection(name, detail::rows_of<pointer>, detail::write_own<pointer>);
 }
 
 // A read-only property that a member function works out, with the column that a statement writes it to.
