@@ -24,6 +24,36 @@ class Argument {
 
  public:
   explicit Argument(const Value& value) {
+    if (const Held* const own = held_in(value)) {
+      held_ = *own;
+    } else {
+      convert(value);
+    }
+  }
+
+  Held& get() { return held_; }
+
+  // A value of another type comes back as what the function saw.
+  void give_back(Value& value) const {
+    if (is_only_read && held_in(value)) return;
+    value = held_;
+  }
+
+ private:
+  static constexpr bool is_only_read =
+      !std::is_reference_v<Parameter> || std::is_const_v<std::remove_reference_t<Parameter>>;
+
+  Held held_{};
+
+  static const Held* held_in(const Value& value) noexcept {
+    if constexpr (std::is_same_v<Held, Value>) {
+      return &value;
+    } else {
+      return value.get_if<Held>();
+    }
+  }
+
+  void convert([[maybe_unused]] const Value& value) {
     if constexpr (std::is_same_v<Held, std::string>) held_ = value.as_text();
     if constexpr (std::is_same_v<Held, bool>) held_ = value.as_boolean();
     if constexpr (std::is_same_v<Held, Byte>) held_ = value.as_byte();
@@ -33,14 +63,7 @@ class Argument {
     if constexpr (std::is_same_v<Held, Double>) held_ = value.as_double();
     if constexpr (std::is_same_v<Held, Money>) held_ = value.as_money();
     if constexpr (std::is_same_v<Held, Date>) held_ = value.as_date();
-    if constexpr (std::is_same_v<Held, Value>) held_ = value;
   }
-
-  Held& get() { return held_; }
-  void give_back(Value& value) const { value = held_; }
-
- private:
-  Held held_{};
 };
 
 // An object goes by reference: the caller's own is worked on.
