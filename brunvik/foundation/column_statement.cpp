@@ -47,42 +47,58 @@ ColumnStatement::ColumnStatement(const Members& members, const std::vector<Colum
                                  std::string_view text, Parts (*take_apart)(std::string_view)) try
     : audited_(resolved(take_apart(form_of(text, true)), members, sources, true)),
       other_(resolved(take_apart(form_of(text, false)), members, sources, false)) {
-  for (const Place& place : other_.places) {
-    if (place.kept_in) members_written_.push_back(place.kept_in);
-  }
 } catch (const ado::RuntimeError& error) {
   throw ado::RuntimeError(error.number(), beginning(text) + ": " + error.description(), std::string(text));
 }
 
-ColumnStatement::Form ColumnStatement::resolved(Parts parts, const Members& members,
+ColumnStatement::Form ColumnStatement::resolved(const Parts& parts, const Members& members,
                                                 const std::vector<ColumnSource>& sources, bool audited) {
   Form form;
-  form.tail = std::move(parts.tail);
-  for (Value& value : parts.values) {
-    Place place{std::move(value.text_before),
-                std::move(value.column),
-                ColumnSource::Kind::property,
-                0,
-                nullptr,
-                nullptr,
-                nullptr};
-    bool listed = false;
+  for (const Value& value : parts.values) {
+    const ColumnSource* own_source = nullptr;
     for (const ColumnSource& source : sources) {
-      if (!ado::same_name(source.column, place.column)) continue;
-      if (audited && source.kind == ColumnSource::Kind::constant_unless_audited) continue;
-      listed = true;
-      place.kind = source.kind;
-      place.constant = source.value;
-      place.work_out = source.work_out;
-      if (source.kind == ColumnSource::Kind::property) {
-        place.property = &members.named(source.property);
-        place.kept_in = &members.written_to(place.column);
-      }
+      const bool counts = !audited || source.kind != ColumnSource::Kind::constant_unless_audited;
+      if (counts && ado::same_name(source.column, value.column)) own_source = &source;
     }
-    if (!listed) place.property = place.kept_in = &members.written_to(place.column);
-    form.places.push_back(std::move(place));
+    form.text += value.text_before;
+    form.places.push_back({value.text_before.size(), source_of(value.column, members, own_source)});
+    if (!own_source || own_source->kind == ColumnSource::Kind::property) {
+      form.members_written.push_back(&members.written_to(value.column));
+    }
   }
+  form.text += parts.tail;
   return form;
+}
+
+ColumnStatement::Source ColumnStatement::source_of(std::string_view column, const Members& members,
+                                                   const ColumnSource* own_source) {
+  if (!own_source) return source_of(members.written_to(column));
+  switch (own_source->kind) {
+    case ColumnSource::Kind::constant:
+    case ColumnSource::Kind::constant_unless_audited:
+      return Constant{own_source->value};
+    case ColumnSource::Kind::argument:
+      return Argument{};
+    case ColumnSource::Kind::bill_number:
+      return BillNumber{};
+    case ColumnSource::Kind::worked_out:
+      return own_source->work_out;
+    case ColumnSource::Kind::property:
+      break;
+  }
+  return source_of(members.named(own_source->property));
+}
+
+ColumnStatement::Source ColumnStatement::source_of(const Member& member) {
+  return std::visit(
+      [&](auto pointer) -> Source {
+        if constexpr (std::is_constructible_v<Source, decltype(pointer)>) {
+          return pointer;
+        } else {
+          return &member;
+        }
+      },
+      member.place().pointer());
 }
 
 Statement ColumnStatement::text(const PublicObject& object, Long status, std::string_view number) const {
@@ -92,30 +108,30 @@ Statement ColumnStatement::text(const PublicObject& object, Long status, std::st
 void ColumnStatement::write_to(StatementWriter& statement, const PublicObject& object, Long status,
                                std::string_view number) const {
   const Form& form = status == status::audited ? audited_ : other_;
+  std::string_view text = form.text;
   for (const Place& place : form.places) {
-    statement.add(place.text_before);
-    switch (place.kind) {
-      case ColumnSource::Kind::property:
-        place.property->write_to(statement, object);
-        break;
-      case ColumnSource::Kind::constant:
-      case ColumnSource::Kind::constant_unless_audited:
-        statement.add(std::int64_t{place.constant});
-        break;
-      case ColumnSource::Kind::argument:
-        statement.add(std::int64_t{status});
-        break;
-      case ColumnSource::Kind::bill_number:
-        SqlValue(number).write_to(statement);
-        break;
-      case ColumnSource::Kind::worked_out: {
-        const ado::Value value = place.work_out(object);
-        SqlValue(value).write_to(statement);
-        break;
-      }
-    }
+    statement.add(text.substr(0, place.text_size));
+    text.remove_prefix(place.text_size);
+    std::visit(
+        [&](const auto& source) {
+          using Kind = std::remove_cvref_t<decltype(source)>;
+          if constexpr (std::is_member_object_pointer_v<Kind>) {
+            write_property(statement, object.*source);
+          } else if constexpr (std::is_same_v<Kind, const Member*>) {
+            source->write_to(statement, object);
+          } else if constexpr (std::is_same_v<Kind, Constant>) {
+            statement.add(std::int64_t{source.value});
+          } else if constexpr (std::is_same_v<Kind, Argument>) {
+            statement.add(std::int64_t{status});
+          } else if constexpr (std::is_same_v<Kind, BillNumber>) {
+            statement.add_quoted(number);
+          } else {
+            write_property(statement, source(object));
+          }
+        },
+        place.source);
   }
-  statement.add(form.tail);
+  statement.add(text);
 }
 
 Insert::Insert(const Members& members, const std::vector<ColumnSource>& sources, std::string_view text)

@@ -12,6 +12,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <variant>
 #include <vector>
 
 #include "brunvik/foundation/members.h"
@@ -64,7 +65,7 @@ class ColumnStatement {
 
   // The properties that keep the columns written, but for those with a source that is no property: what an object
   // reads back of what it writes. In the form for any other status than 3.
-  const std::vector<const Member*>& members_written() const noexcept { return members_written_; }
+  const std::vector<const Member*>& members_written() const noexcept { return other_.members_written; }
 
  protected:
   struct Value {
@@ -83,26 +84,35 @@ class ColumnStatement {
  private:
   void write_to(StatementWriter& statement, const PublicObject& object, Long status, std::string_view number) const;
 
+  struct Constant {
+    Long value;
+  };
+  struct Argument {};
+  struct BillNumber {};
+  // The properties of these types are nearly all that there are.
+  using Source = std::variant<std::string PublicObject::*, Byte PublicObject::*, Integer PublicObject::*,
+                              Long PublicObject::*, Single PublicObject::*, Money PublicObject::*, const Member*,
+                              Constant, Argument, BillNumber, ColumnSource::WorkOut>;
+
+  // Where the next value stands and what it is. All are gone through for each row, after a statement that leaves little
+  // of them at hand, so they are small and lie together.
   struct Place {
-    std::string text_before;
-    std::string column;
-    ColumnSource::Kind kind;
-    Long constant;
-    ColumnSource::WorkOut work_out;
-    // Where the value comes from, and what keeps the column; the same but for a column with a source of its own.
-    const Member* property;
-    const Member* kept_in;
+    std::size_t text_size;  // of the text in front of the value
+    Source source;
   };
   struct Form {
+    std::string text;  // of all that stands between the values, one behind the other
     std::vector<Place> places;
-    std::string tail;
+    std::vector<const Member*> members_written;
   };
 
-  static Form resolved(Parts parts, const Members& members, const std::vector<ColumnSource>& sources, bool audited);
+  static Form resolved(const Parts& parts, const Members& members, const std::vector<ColumnSource>& sources,
+                       bool audited);
+  static Source source_of(std::string_view column, const Members& members, const ColumnSource* own_source);
+  static Source source_of(const Member& member);
 
   Form audited_;
   Form other_;
-  std::vector<const Member*> members_written_;
 };
 
 // "insert into T(A,B) values(": the values follow, separated by commas, and the closing bracket.

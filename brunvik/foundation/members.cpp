@@ -67,34 +67,31 @@ std::string_view name_of(MemberKind kind) noexcept {
   return {};
 }
 
-Member Member::stored(std::string_view name, std::string_view column, Type type, PropertyPlace place, Write write) {
+Member Member::stored(std::string_view name, std::string_view column, Type type, PropertyPlace place) {
   Member member;
   member.name_ = name;
   member.type_ = type;
   member.written_column_ = member.read_column_ = column;
   member.place_ = place;
-  member.write_ = write;
   return member;
 }
 
-Member Member::collection(std::string_view name, Rows rows, Write write) {
+Member Member::collection(std::string_view name, Rows rows) {
   Member member;
   member.name_ = name;
   member.kind_ = MemberKind::collection;
   member.type_ = Type::Rows;
   member.rows_ = rows;
-  member.write_ = write;
   return member;
 }
 
-Member Member::computed(std::string_view name, std::string_view column, Type type, Compute compute, Write write) {
+Member Member::computed(std::string_view name, std::string_view column, Type type, Compute compute) {
   Member member;
   member.name_ = name;
   member.kind_ = MemberKind::read_only_property;
   member.type_ = type;
   member.written_column_ = column;
   member.compute_ = compute;
-  member.write_ = write;
   return member;
 }
 
@@ -129,9 +126,11 @@ Member Member::read_only() && {
   return std::move(*this);
 }
 
-void detail::write(StatementWriter& statement, Double number) { SqlValue(number).write_to(statement); }
-void detail::write(StatementWriter& statement, const Value& value) { SqlValue(value).write_to(statement); }
-void detail::raise_unwritable() { ado::raise(ado::error::type_mismatch); }
+void Member::write_to(StatementWriter& statement, const PublicObject& object) const {
+  if (!compute_) return place_.write_to(statement, object);
+  const Value value = compute_(object);
+  SqlValue(value).write_to(statement);
+}
 
 void Member::read(PublicObject& object, const Value& field) const {
   if (field.is_null() && required_) ado::raise(ado::error::invalid_use_of_null);

@@ -85,14 +85,12 @@ inline Parameter optional(Parameter parameter, Value default_value) {
 class Member {
  public:
   using Rows = RowCollection& (*)(PublicObject&);
-  // Writes the property's value into a statement.
-  using Write = void (*)(StatementWriter&, const PublicObject&);
   using Compute = Value (*)(const PublicObject&);
   using Call = Value (*)(PublicObject&, std::span<Value>);
 
-  static Member stored(std::string_view name, std::string_view column, Type type, PropertyPlace place, Write write);
-  static Member collection(std::string_view name, Rows rows, Write write);
-  static Member computed(std::string_view name, std::string_view column, Type type, Compute compute, Write write);
+  static Member stored(std::string_view name, std::string_view column, Type type, PropertyPlace place);
+  static Member collection(std::string_view name, Rows rows);
+  static Member computed(std::string_view name, std::string_view column, Type type, Compute compute);
   static Member callable(std::string_view name, Type result, std::vector<Parameter> parameters, Call call);
 
   // A null in the column is error 94 when a header is read; elsewhere a null reads as nothing (empty text, 0, false).
@@ -119,8 +117,8 @@ class Member {
   std::string_view written_column() const noexcept { return written_column_; }
   std::string_view read_column() const noexcept { return read_column_; }
 
-  // The value as GetSqlVal writes it.
-  void write_to(StatementWriter& statement, const PublicObject& object) const { write_(statement, object); }
+  // Puts the property's value into a statement, as GetSqlVal writes it; error 13 where it is no property.
+  void write_to(StatementWriter& statement, const PublicObject& object) const;
 
   // Takes the value of the column in a record.
   void read(PublicObject& object, const Value& field) const;
@@ -144,7 +142,6 @@ class Member {
   std::vector<Parameter> parameters_;
   PropertyPlace place_;
   Rows rows_ = nullptr;
-  Write write_ = nullptr;
   Compute compute_ = nullptr;
   Call call_ = nullptr;
 };
@@ -229,30 +226,6 @@ struct MemberPointer<Content Owner::*> {
   using Class = Owner;
 };
 
-void write(StatementWriter& statement, Double number);
-void write(StatementWriter& statement, const Value& value);
-[[noreturn]] void raise_unwritable();
-
-// For each property a function of its own, which the types of nearly all make a call of the writer: by the type at run
-// time a value would cost a fifth more.
-template <auto pointer>
-void write_own(StatementWriter& statement, const PublicObject& object) {
-  using Pointer = MemberPointer<decltype(pointer)>;
-  using Stored = typename Pointer::Type;
-  [[maybe_unused]] const auto& property = static_cast<const typename Pointer::Class&>(object).*pointer;
-  if constexpr (std::is_same_v<Stored, std::string>) {
-    statement.add_quoted(property);
-  } else if constexpr (std::is_integral_v<Stored>) {
-    statement.add(std::int64_t{property});
-  } else if constexpr (std::is_same_v<Stored, Money> || std::is_same_v<Stored, Single>) {
-    statement.add(property);
-  } else if constexpr (std::is_same_v<Stored, Double> || std::is_same_v<Stored, Value>) {
-    write(statement, property);
-  } else {
-    raise_unwritable();
-  }
-}
-
 template <auto pointer>
 RowCollection& rows_of(PublicObject& object) {
   return static_cast<typename MemberPointer<decltype(pointer)>::Class&>(object).*pointer;
@@ -264,7 +237,7 @@ RowCollection& rows_of(PublicObject& object) {
 template <auto pointer>
 Member property(std::string_view name, std::string_view column = {}) {
   using Stored = typename detail::MemberPointer<decltype(pointer)>::Type;
-  return Member::stored(name, column, type_of<Stored>(), PropertyPlace(pointer), detail::write_own<pointer>);
+  return Member::stored(name, column, type_of<Stored>(), PropertyPlace(pointer));
 }
 
 template <auto pointer>
@@ -274,7 +247,7 @@ Member connection(std::string_view name) {
 
 template <auto pointer>
 Member collection(std::string_view name) {
-  return Member::collection(name, detail::rows_of<pointer>, detail::write_own<pointer>);
+  return Member::collection(name, detail::rows_of<pointer>);
 }
 
 // A read-only property that a member function works out, with the column that a statement writes it to.
@@ -282,12 +255,9 @@ template <auto getter>
 Member computed(std::string_view name, std::string_view column = {}) {
   using Class = typename detail::MemberPointer<decltype(getter)>::Class;
   using Result = std::invoke_result_t<decltype(getter), const Class&>;
-  return Member::computed(
-      name, column, type_of<Result>(),
-      [](const PublicObject& object) -> Value { return (static_cast<const Class&>(object).*getter)(); },
-      [](StatementWriter& statement, const PublicObject& object) {
-        detail::write(statement, Value((static_cast<const Class&>(object).*getter)()));
-      });
+  return Member::computed(name, column, type_of<Result>(), [](const PublicObject& object) -> Value {
+    return (static_cast<const Class&>(object).*getter)();
+  });
 }
 
 }  // namespace brunvik

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "brunvik/ado/errors.h"
+#include "brunvik/foundation/sql_text.h"
 
 namespace brunvik {
 
@@ -80,5 +81,13 @@ Value PropertyPlace::get(const PublicObject& object) const {
   });
   return value;
 }
+
+void PropertyPlace::write_to(StatementWriter& statement, const PublicObject& object) const {
+  visit(object, [&](const auto& property) { write_property(statement, property); });
+}
+
+void write_property(StatementWriter& statement, Double number) { SqlValue(number).write_to(statement); }
+void write_property(StatementWriter& statement, const Value& value) { SqlValue(value).write_to(statement); }
+void write_property(StatementWriter&, const ado::ConnectionReference&) { ado::raise(ado::error::type_mismatch); }
 
 }  // namespace brunvik

@@ -3,13 +3,28 @@
 // load.
 #pragma once
 
+#include <concepts>
+#include <cstdint>
 #include <string>
 #include <variant>
 
 #include "brunvik/ado/connection.h"
 #include "brunvik/foundation/public_object.h"
+#include "brunvik/foundation/statement_writer.h"
 
 namespace brunvik {
+
+// Puts what a property holds into a statement, as GetSqlVal writes it.
+inline void write_property(StatementWriter& statement, const std::string& text) { statement.add_quoted(text); }
+inline void write_property(StatementWriter& statement, Money amount) { statement.add(amount); }
+inline void write_property(StatementWriter& statement, Single number) { statement.add(number); }
+template <std::integral Whole>
+void write_property(StatementWriter& statement, Whole number) {
+  statement.add(std::int64_t{number});
+}
+void write_property(StatementWriter& statement, Double number);
+void write_property(StatementWriter& statement, const Value& value);
+[[noreturn]] void write_property(StatementWriter& statement, const ado::ConnectionReference& connection);
 
 class PropertyPlace {
  public:
@@ -18,7 +33,7 @@ class PropertyPlace {
                    Long PublicObject::*, Single PublicObject::*, Double PublicObject::*, Money PublicObject::*,
                    bool PublicObject::*, Value PublicObject::*, ado::ConnectionReference PublicObject::*>;
 
-  // Nowhere: to read, put or get is then error 13.
+  // Nowhere: to read, put, get or write is then error 13.
   PropertyPlace() = default;
 
   template <class Stored, class Owner>
@@ -37,6 +52,9 @@ class PropertyPlace {
   void put(PublicObject& object, const Value& value) const;
 
   Value get(const PublicObject& object) const;
+
+  // Puts the property's value into a statement, as GetSqlVal writes it.
+  void write_to(StatementWriter& statement, const PublicObject& object) const;
 
  private:
   Pointer pointer_;
