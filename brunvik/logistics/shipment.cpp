@@ -59,22 +59,24 @@ const Members& clsSendGoodsBill::members() const {
 
 // A save again leaves the maker, the settlement mark and the status as they are stored.
 const DocumentForm& clsSendGoodsBill::form() const {
-  static const DocumentForm form = form_reading_back(
-      {"select * from SendGoodsBill where Id={}", "delete from SendGoodsBill where Id={}",
-       "select * from SendGoodsBillItems  where BillId={} order by rownum",
-       "delete from SendGoodsBillItems where BillId={}"},
-      Insert(members(), {},
-             "insert into SendGoodsBill(Id,Receiveunit,Receiver,Receiveaddress,Receivetel,Sendgoodsunit,Sendgoodser,"
-             "Sendgoodstel,Logisticcompany,Logisticfare,Collecttag,Receiptcasher,Openingbank,Bankaccount,"
-             "Receiptmoney,Sendgoodsdate,Remarks,Operater,Operatedate,YFZFZH,JSBJ,Status) values("),
-      Update(members(), {},
-             "update SendGoodsBill set Id=,Receiveunit=,Receiver=,Receiveaddress=,Receivetel=,Sendgoodsunit=,"
-             "Sendgoodser=,Sendgoodstel=,Logisticcompany=,Logisticfare=,Collecttag=,Receiptcasher=,Openingbank=,"
-             "Bankaccount=,Receiptmoney=,Sendgoodsdate=,Remarks=,YFZFZH= where Id="),
-      Insert(ShipmentRow::table(), {},
-             "insert into SendGoodsBillItems(Billid,Rownum,Gstutas,Businessclass,Gid,Gbarcode,Gname,Class,"
-             "Model1,Model2,Unit,Qty,Price,Amount,Supplier,Receiver,Outfactorydate,Equipcode,Buydate,"
-             "Accessory,Remarks,Bid,BType,BillDate) values("));
+  static const DocumentForm form = [this] {
+    return form_reading_back(
+        {"select * from SendGoodsBill where Id={}", "delete from SendGoodsBill where Id={}",
+         "select * from SendGoodsBillItems  where BillId={} order by rownum",
+         "delete from SendGoodsBillItems where BillId={}"},
+        Insert(members(), {},
+               "insert into SendGoodsBill(Id,Receiveunit,Receiver,Receiveaddress,Receivetel,Sendgoodsunit,Sendgoodser,"
+               "Sendgoodstel,Logisticcompany,Logisticfare,Collecttag,Receiptcasher,Openingbank,Bankaccount,"
+               "Receiptmoney,Sendgoodsdate,Remarks,Operater,Operatedate,YFZFZH,JSBJ,Status) values("),
+        Update(members(), {},
+               "update SendGoodsBill set Id=,Receiveunit=,Receiver=,Receiveaddress=,Receivetel=,Sendgoodsunit=,"
+               "Sendgoodser=,Sendgoodstel=,Logisticcompany=,Logisticfare=,Collecttag=,Receiptcasher=,Openingbank=,"
+               "Bankaccount=,Receiptmoney=,Sendgoodsdate=,Remarks=,YFZFZH= where Id="),
+        Insert(ShipmentRow::table(), {},
+               "insert into SendGoodsBillItems(Billid,Rownum,Gstutas,Businessclass,Gid,Gbarcode,Gname,Class,"
+               "Model1,Model2,Unit,Qty,Price,Amount,Supplier,Receiver,Outfactorydate,Equipcode,Buydate,"
+               "Accessory,Remarks,Bid,BType,BillDate) values("));
+  }();
   return form;
 }
 

@@ -66,19 +66,21 @@ const Members& clsShareCost::members() const {
 }
 
 const DocumentForm& clsShareCost::form() const {
-  static const DocumentForm form = form_reading_back(
-      {"select * from PurchaseShareCost where Id={}", "delete from PurchaseShareCost where Id={}",
-       "select * from PurChaseCostItems where BillId={} order by Rownum",
-       "delete from PurChaseCostItems where BillId={}"},
-      Insert(members(), {},
-             "insert into PurchaseShareCost(Id,Vendors,Creator,CreateTime,BillCost,PurChaseBill,PurChaseAmount,"
-             "ReferFlag,ReferBillID,Summary,Remarks) values("),
-      Update(members(), {},
-             "Update PurchaseShareCost set Vendors=,Creator=,CreateTime=,BillCost=,PurChaseBill=,PurChaseAmount=,"
-             "ReferFlag=,ReferBillID=,Summary=,Remarks= where Id="),
-      Insert(CostKindRow::table(), {},
-             "insert into PurChaseCostItems(BillId,RowNum,CostId,CostName,Amount,ShareMethod,remarks) "
-             "values("));
+  static const DocumentForm form = [this] {
+    return form_reading_back(
+        {"select * from PurchaseShareCost where Id={}", "delete from PurchaseShareCost where Id={}",
+         "select * from PurChaseCostItems where BillId={} order by Rownum",
+         "delete from PurChaseCostItems where BillId={}"},
+        Insert(members(), {},
+               "insert into PurchaseShareCost(Id,Vendors,Creator,CreateTime,BillCost,PurChaseBill,PurChaseAmount,"
+               "ReferFlag,ReferBillID,Summary,Remarks) values("),
+        Update(members(), {},
+               "Update PurchaseShareCost set Vendors=,Creator=,CreateTime=,BillCost=,PurChaseBill=,PurChaseAmount=,"
+               "ReferFlag=,ReferBillID=,Summary=,Remarks= where Id="),
+        Insert(CostKindRow::table(), {},
+               "insert into PurChaseCostItems(BillId,RowNum,CostId,CostName,Amount,ShareMethod,remarks) "
+               "values("));
+  }();
   return form;
 }
 

@@ -48,18 +48,20 @@ const Members& ClsAdjustInBill::members() const {
 }
 
 const DocumentForm& ClsAdjustInBill::form() const {
-  static const DocumentForm form = form_reading_back(
-      {"select * from AdjustInBill where Id={}", "delete from AdjustInBill where Id={}",
-       "select * from AdjustStockBill where AdjustId={} order by Rownum ",
-       "delete from AdjustStockBill where StockId={}"},
-      Insert(members(), {argument("Status")},
-             "insert into AdjustInBill(Id,ManualId,Manager,Salesman,Creator,CreateTime,Status,Deliverymethod,"
-             "[Auditor,AuditTime,]ReferFlag,Referbillid,Summary,Remarks) values("),
-      Update(members(), {argument("Status")},
-             "update AdjustInBill set ManualId = ,Manager = ,Salesman = ,Status = ,Deliverymethod = ,"
-             "[Auditor = ,AuditTime = ,]ReferFlag = ,Referbillid = ,Summary = ,Remarks =  where Id="),
-      Insert(ArrivalRow::table(), {},
-             "insert into AdjustStockBill(AdjustId,StockId,RowNum,Meansofpayment,Amount,StockRowNum) values("));
+  static const DocumentForm form = [this] {
+    return form_reading_back(
+        {"select * from AdjustInBill where Id={}", "delete from AdjustInBill where Id={}",
+         "select * from AdjustStockBill where AdjustId={} order by Rownum ",
+         "delete from AdjustStockBill where StockId={}"},
+        Insert(members(), {argument("Status")},
+               "insert into AdjustInBill(Id,ManualId,Manager,Salesman,Creator,CreateTime,Status,Deliverymethod,"
+               "[Auditor,AuditTime,]ReferFlag,Referbillid,Summary,Remarks) values("),
+        Update(members(), {argument("Status")},
+               "update AdjustInBill set ManualId = ,Manager = ,Salesman = ,Status = ,Deliverymethod = ,"
+               "[Auditor = ,AuditTime = ,]ReferFlag = ,Referbillid = ,Summary = ,Remarks =  where Id="),
+        Insert(ArrivalRow::table(), {},
+               "insert into AdjustStockBill(AdjustId,StockId,RowNum,Meansofpayment,Amount,StockRowNum) values("));
+  }();
   return form;
 }
 
