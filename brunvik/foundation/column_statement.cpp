@@ -6,7 +6,6 @@
 #include "brunvik/ado/errors.h"
 #include "brunvik/ado/names.h"
 #include "brunvik/foundation/Declare_EnumType.h"
-#include "brunvik/foundation/sql_text.h"
 #include "brunvik/foundation/text.h"
 
 namespace brunvik {

@@ -1,6 +1,6 @@
-// Where a stored property is in the objects of its class: as data, so that one piece of code reads the properties of
-// all classes. A load reads some fifty of them, and a function of each one's own would be fetched from afar at every
-// load.
+// Where a stored property is in the objects of its class, as data.
+// One piece of code reads and writes the properties of all classes: a load reads some fifty of them, and a function for
+// each would be fetched from afar every time.
 #pragma once
 
 #include <concepts>
@@ -14,7 +14,7 @@
 
 namespace brunvik {
 
-// Puts what a property holds into a statement, as GetSqlVal writes it.
+// Puts what a property holds into a statement, as GetSqlVal writes it, a flag as 1 or 0; a connection is error 13.
 inline void write_property(StatementWriter& statement, const std::string& text) { statement.add_quoted(text); }
 inline void write_property(StatementWriter& statement, Money amount) { statement.add(amount); }
 inline void write_property(StatementWriter& statement, Single number) { statement.add(number); }
@@ -53,7 +53,7 @@ class PropertyPlace {
 
   Value get(const PublicObject& object) const;
 
-  // Puts the property's value into a statement, as GetSqlVal writes it.
+  // As write_property.
   void write_to(StatementWriter& statement, const PublicObject& object) const;
 
  private:

@@ -50,6 +50,7 @@ class TradeDocument : public PostingDocument {
     });
   }
 
+  // Marks the bill as no longer audited.
   virtual void mark_undone() { mark(status::saved); }
 };
 
