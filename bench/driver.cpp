@@ -48,6 +48,7 @@ void driver(benchmark::State& state, const Document& document, const Place& plac
   std::size_t round = 0;
   for (auto _ : state) {
     const std::size_t seed = round % lives;
+    for (Times* times : {&driver_times, &text_times, &statement_times}) times->take_life(seed);
     for (std::size_t turn = round; turn < round + 3; ++turn) {
       if (turn % 3 == 0) through_driver(seed, driver_times);
       if (turn % 3 == 1) as_text(seed, text_times);

@@ -1,5 +1,7 @@
 #include "bench/recording.h"
 
+#include <stdexcept>
+
 #include "bench/books.h"
 
 namespace brunvik::bench {
@@ -20,8 +22,14 @@ RecordedLife record(const ado::ConnectionReference& connection, const MakeLife& 
 
 std::vector<RecordedLife> record_lives(const ado::ConnectionReference& connection, const MakeLife& make,
                                        unsigned lives) {
-  std::vector<RecordedLife> recorded;
-  for (unsigned seed = 0; seed < lives; ++seed) recorded.push_back(record(connection, make, seed));
+  const auto record_all = [&] {
+    std::vector<RecordedLife> recorded;
+    for (unsigned seed = 0; seed < lives; ++seed) recorded.push_back(record(connection, make, seed));
+    return recorded;
+  };
+  record_all();
+  std::vector<RecordedLife> recorded = record_all();
+  if (record_all() != recorded) throw std::runtime_error("a life sends other statements each time");
   return recorded;
 }
 

@@ -35,6 +35,8 @@ struct RecordedStep {
   std::string verb;
   std::vector<std::string> texts;
   bool timed = true;
+
+  friend bool operator==(const RecordedStep&, const RecordedStep&) = default;
 };
 
 // Where the life has an end of its own, that is the last step.
@@ -43,7 +45,9 @@ using RecordedLife = std::vector<RecordedStep>;
 // Lives the life of a document once on the connection; the session is the connection's afterwards.
 RecordedLife record(const ado::ConnectionReference& connection, const MakeLife& make, unsigned seed);
 
-// The lives of the first seeds.
+// The lives of the first seeds, as they are once each has been lived: the first enters the stock of goods in a new
+// warehouse or state, and the later ones find it. Throws std::runtime_error where they still differ from time to time,
+// since a replay would then do other work than the verbs.
 std::vector<RecordedLife> record_lives(const ado::ConnectionReference& connection, const MakeLife& make,
                                        unsigned lives);
 

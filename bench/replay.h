@@ -61,6 +61,8 @@ void compare_in_turns(benchmark::State& state, const RecordedLife& life, First&&
   unsigned round = 0;
   for (auto _ : state) {
     const unsigned seed = round % recorded_lives;
+    first_times.take_life(seed);
+    second_times.take_life(seed);
     if (round++ % 2 == 0) {
       first(seed, first_times);
       second(seed, second_times);
