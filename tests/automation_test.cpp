@@ -194,5 +194,26 @@ TEST_F(AutomationTest, Rows_of_every_record_class_are_made_by_name) {
   EXPECT_EQ(error_number([] { create_rows("Row"); }), 429);
 }
 
+TEST_F(AutomationTest, A_new_row_holds_nothing_of_the_row_that_lay_there_before) {
+  for (const automation::RecordClass& each : automation::record_classes()) {
+    const auto rows = create_rows(each.name);
+    PublicObject& row = rows->add();
+    std::vector<std::pair<std::string, Value>> nothing;
+    for (const Member& member : row.members()) {
+      if (member.place().is_nowhere()) continue;
+      nothing.emplace_back(member.name(), member.get(row));
+      member.put(row, "1");
+      EXPECT_NE(member.get(row), nothing.back().second) << each.name << " " << member.name();
+    }
+    rows->clear();
+    const PublicObject& again = rows->add();
+    ASSERT_EQ(&again, &row);
+    for (const auto& [name, value] : nothing) {
+      EXPECT_EQ(again.members().named(name).get(again), value) << each.name << " " << name;
+      EXPECT_TRUE(value.as_text().empty() || value.as_double() == 0) << each.name << " " << name;
+    }
+  }
+}
+
 }  // namespace
 }  // namespace brunvik::automation
