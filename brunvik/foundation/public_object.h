@@ -61,6 +61,10 @@ struct RowMemory : std::allocator<Row> {
     using other = RowMemory<Other>;
   };
 
+  RowMemory() = default;
+  template <class Other>
+  RowMemory(const RowMemory<Other>&) noexcept {}
+
   void construct(Row* place) { ::new (static_cast<void*>(place)) Row; }
 };
 
