@@ -26,7 +26,8 @@ struct DocumentForm {
   RowMembers row_members_read;
 };
 
-// The form of a document that reads back of a row what its insert writes, but for the cost.
+// The form of a document that reads back of a row what its insert writes, but for the cost. Call it in a function that
+// returns the form, and not where a static is initialised: there clang 14 ends the call's temporaries too early.
 DocumentForm form_reading_back(DocumentStatements statements, Insert insert, Update update, Insert insert_row);
 
 class Document : public Bill {
